@@ -1,0 +1,86 @@
+# Sourced by the scripts that run Windows programs: a display, a Wine prefix and a wineserver that
+# belong to one run alone and leave nothing behind.
+#
+#   StartDisplay               own Xvfb on a free number; sets DISPLAY
+#   UseWine ARCH PREFIX        chooses 64-bit (x64) or 32-bit (x86) Wine and the prefix folder
+#   PrepareWine                makes the prefix when it is new, then keeps its server alive
+#   Wine PROGRAM [ARG...]      runs a Windows program in the prefix
+#   StopWine, StopDisplay      end what the two above have started
+#
+# shellcheck shell=bash
+
+vantrelTop=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+wineLauncher=()  # what stands before every Wine command
+displayPid=""
+
+StartDisplay() {
+  local numberFile
+  numberFile=$(mktemp)
+  # -displayfd lets the server itself pick a number that is free, so parallel runs never collide.
+  # -noreset: the server must outlive its last client between two test programs.
+  Xvfb -displayfd 9 -screen 0 "${VANTREL_SCREEN:-1280x1024x24}" -ac -noreset -nolisten tcp \
+    9>"$numberFile" >/dev/null 2>&1 </dev/null &
+  displayPid=$!
+  local tries
+  for ((tries = 0; tries < 100; tries++)); do
+    [[ ! -s $numberFile ]] || break
+    kill -0 "$displayPid" 2>/dev/null || break
+    sleep 0.1
+  done
+  local number
+  number=$(<"$numberFile")
+  rm -f "$numberFile"
+  [[ -n $number ]] || { echo "no display: Xvfb did not start" >&2; return 1; }
+  export DISPLAY=:$number
+}
+
+StopDisplay() {
+  [[ -n $displayPid ]] || return 0
+  kill "$displayPid" 2>/dev/null || true
+  wait "$displayPid" 2>/dev/null || true
+  displayPid=""
+}
+
+UseWine() {
+  wineArch=$1
+  export WINEPREFIX=$2
+  # Wine maps the Recycle Bin to the user's trash folder: a run must have one of its own.
+  export XDG_DATA_HOME=$WINEPREFIX.data XDG_CACHE_HOME=$WINEPREFIX.data/cache
+  export WINEDEBUG=${WINEDEBUG:--all}
+  # No offers to fetch Mono or Gecko, no menu entries on the user's desktop, and a program that
+  # crashes ends at once instead of waiting in a debugger.
+  export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
+  unset WINESERVER WINELOADER
+  wineLauncher=()
+  export WINEARCH=win64
+  if [[ $wineArch == x86 && ! -x /usr/lib/wine/wine ]]; then
+    export WINEARCH=win32
+    wineLauncher=("$vantrelTop/tools/x86-root" run)
+  fi
+}
+
+Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
+
+# The server behind Debian's wrapper script, which would force its own option -p0 on it.
+WineServer() { "${wineLauncher[@]}" /usr/lib/wine/wineserver "$@"; }
+
+PrepareWine() {
+  mkdir -p "$WINEPREFIX" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
+  if [[ ! -e $WINEPREFIX/vantrel-ready ]]; then
+    Wine wineboot -i >/dev/null 2>&1 </dev/null
+    # A desktop window of Wine's own: without a window manager, keys reach programs and captions
+    # are drawn only inside one.
+    Wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
+    Wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default \
+      /d "${VANTREL_DESKTOP:-1280x1024}" /f >/dev/null
+    WineServer -w
+    touch "$WINEPREFIX/vantrel-ready"
+  fi
+  WineServer -p >/dev/null 2>&1 || true
+}
+
+StopWine() {
+  [[ -d ${WINEPREFIX:-/nowhere} ]] || return 0
+  WineServer -k >/dev/null 2>&1 || true
+  timeout 10 "${wineLauncher[@]}" /usr/lib/wine/wineserver -w >/dev/null 2>&1 || true
+}
