@@ -74,6 +74,9 @@ PrepareWine() {
     Wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default \
       /d "${VANTREL_DESKTOP:-1280x1024}" /f >/dev/null
     WineServer -w
+    # Debian's Wine does not look into its own font folder by itself: without these fonts
+    # captions come out bold and wide, and caption buttons as letters.
+    ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
     touch "$WINEPREFIX/vantrel-ready"
   fi
   WineServer -p >/dev/null 2>&1 || true
