@@ -16,9 +16,10 @@ displayPid=""
 StartDisplay() {
   local numberFile
   numberFile=$(mktemp)
+  # setsid: Ctrl-C in the terminal must not take the display away before the programs have ended.
   # -displayfd lets the server itself pick a number that is free, so parallel runs never collide.
   # -noreset: the server must outlive its last client between two test programs.
-  Xvfb -displayfd 9 -screen 0 "${VANTREL_SCREEN:-1280x1024x24}" -ac -noreset -nolisten tcp \
+  setsid Xvfb -displayfd 9 -screen 0 1280x1024x24 -ac -noreset -nolisten tcp \
     9>"$numberFile" >/dev/null 2>&1 </dev/null &
   displayPid=$!
   local tries
@@ -64,15 +65,23 @@ Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
 # The server behind Debian's wrapper script, which would force its own option -p0 on it.
 WineServer() { "${wineLauncher[@]}" /usr/lib/wine/wineserver "$@"; }
 
+# A desktop window of Wine's own: without a window manager, keys reach programs and captions are
+# drawn only inside one.
+UseOwnDesktop() {
+  Wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
+  Wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1280x1024 /f >/dev/null
+}
+
+# The user's own desktop, with its window manager and tray.
+UseUserDesktop() {
+  Wine reg delete 'HKCU\Software\Wine\Explorer' /v Desktop /f >/dev/null 2>&1 || true
+}
+
 PrepareWine() {
   mkdir -p "$WINEPREFIX" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
   if [[ ! -e $WINEPREFIX/vantrel-ready ]]; then
     Wine wineboot -i >/dev/null 2>&1 </dev/null
-    # A desktop window of Wine's own: without a window manager, keys reach programs and captions
-    # are drawn only inside one.
-    Wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
-    Wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default \
-      /d "${VANTREL_DESKTOP:-1280x1024}" /f >/dev/null
+    UseOwnDesktop
     WineServer -w
     # Debian's Wine does not look into its own font folder by itself: without these fonts
     # captions come out bold and wide, and caption buttons as letters.
