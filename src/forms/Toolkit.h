@@ -1,0 +1,77 @@
+// What makes windows real: the real desktop or the in-memory one. One toolkit serves one running
+// copy of the program; it also holds what is common to all its windows: the list of loaded forms,
+// the message pump, the border of events and the end of the program.
+#ifndef VANTREL_FORMS_TOOLKIT_H_
+#define VANTREL_FORMS_TOOLKIT_H_
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "forms/Peer.h"
+#include "text/RuntimeError.h"
+
+namespace vantrel::forms {
+
+class Form;
+
+// Thrown to end the process: it unwinds through every handler and pump to the entry point.
+// Nothing catches it on the way but the event border, which lets it go on beyond the callback.
+struct EndProgram {};
+
+class Toolkit {
+ public:
+  virtual ~Toolkit();
+
+  // Makes the real window of a form and of all its controls, hidden.
+  virtual std::unique_ptr<FormPeer> MakeWindow(Form& form) = 0;
+
+  // How many twips a pixel of the screen is wide, e.g. 15 at 96 DPI.
+  virtual double TwipsPerPixelX() const = 0;
+
+  // Lets pending window messages and due timers through. Throws EndProgram if one of them ended
+  // the program.
+  void DoEvents();
+
+  // Ends the program: throws EndProgram, here and from every nested pump.
+  [[noreturn]] void End();
+  bool Ending() const { return ending_; }
+  // Throws EndProgram if the program is ending; called after everything that may have let
+  // messages through (pumps, boxes, sent messages).
+  void ThrowIfEnding() const;
+
+  // Runs one event from outside (a message, a tick) to its end. An untrapped RuntimeError goes to
+  // OnUntrappedError, any other exception there as one; EndProgram marks the toolkit as ending.
+  // Nothing is thrown.
+  void AtBorder(const std::function<void()>& event) noexcept;
+
+  // Shows an untrapped error; bound by the program.
+  std::function<void(const text::RuntimeError&)> OnUntrappedError;
+
+  // The loaded forms in the order of their creation.
+  const std::vector<Form*>& LoadedForms() const { return loadedForms_; }
+
+  // The pointer over all windows: 0 default, 11 hourglass.
+  int ScreenPointer() const { return screenPointer_; }
+  void SetScreenPointer(int pointer);
+
+  // Keeps a window that was unloaded until no event is running that could still use it.
+  void Discard(std::unique_ptr<Form> form);
+
+ protected:
+  virtual void PumpMessages() = 0;
+  virtual void ScreenPointerChanged() {}
+
+ private:
+  friend class Form;
+
+  std::vector<Form*> loadedForms_;
+  std::vector<std::unique_ptr<Form>> discarded_;
+  int depth_ = 0;
+  int screenPointer_ = 0;
+  bool ending_ = false;
+};
+
+}  // namespace vantrel::forms
+
+#endif  // VANTREL_FORMS_TOOLKIT_H_
