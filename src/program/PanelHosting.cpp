@@ -1,0 +1,12 @@
+#include "program/PanelHosting.h"
+
+namespace vantrel::program {
+
+void HostPanel(Program& program, forms::Form& panel) {
+  windows::frmMain& main = *program.windows.frmMain;
+  panel.BecomeChild();
+  program.platform.desktop.SetParent(panel.hWnd(), main.hWnd());
+  panel.SetHost(&main);
+}
+
+}  // namespace vantrel::program
