@@ -15,7 +15,7 @@ namespace vantrel::resources {
 namespace {
 
 std::optional<Picture> Drawn(int resource) {
-  std::ifstream file(VANTREL_STRIPS_FOLDER "/" + std::to_string(resource) + ".qoi",
+  std::ifstream file(VANTREL_PICTURES_FOLDER "/" + std::to_string(resource) + ".qoi",
                      std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};
   return UnpackPicture(std::as_bytes(std::span(bytes)));
