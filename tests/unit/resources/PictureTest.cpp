@@ -52,6 +52,11 @@ TEST(Picture, ARunRepeatsThePixelBeforeIt) {
             (Pixels{0xFF010203, 0xFF010203, 0xFF010203}));
 }
 
+TEST(Picture, ARunEndsWhereItSays) {
+  EXPECT_EQ(PixelsOf(OneRow(3, {0xFE, 1, 2, 3, 0xC0, 0xFE, 4, 5, 6})),
+            (Pixels{0xFF010203, 0xFF010203, 0xFF040506}));
+}
+
 TEST(Picture, StartsWithOpaqueBlack) {
   EXPECT_EQ(PixelsOf(OneRow(2, {0xC0 | 1})), (Pixels{0xFF000000, 0xFF000000}));
 }
