@@ -239,6 +239,15 @@ def check_reachable(pages):
             yield f"{own}: its navigation leaves out {name!r}"
 
 
+def check_same_column(pages):
+    """The column of contents is repeated in each page and must not drift apart."""
+    columns = collections.Counter(tuple(page.navigation) for page in pages.values())
+    usual = columns.most_common(1)[0][0] if columns else ()
+    for own, page in pages.items():
+        if tuple(page.navigation) != usual:
+            yield f"{own}: its navigation differs from the other pages'"
+
+
 def check_names(files):
     """Two names that differ in case alone are one file on Windows."""
     for name, count in collections.Counter(f.lower() for f in files).items():
@@ -254,7 +263,8 @@ def check_folder(folder):
         own_faults = page.faults + list(check_frame(page))
         own_faults += list(check_links(pages, files, own, page))
         faults += [f"{own}: {fault}" for fault in own_faults]
-    faults += list(check_reachable(pages)) + list(check_sheet(folder, files))
+    faults += list(check_reachable(pages)) + list(check_same_column(pages))
+    faults += list(check_sheet(folder, files))
     used = {unquote(r) for page in pages.values() for r in page.pictures}
     return pages, used, faults
 
