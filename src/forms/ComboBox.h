@@ -38,7 +38,7 @@ class ComboBox : public Control {
   void SetListIndex(int index);
 
   // The user leaves the control: raises Validate; true if the focus may go.
-  bool UserLeaves();
+  bool UserLeaves() override;
 
   Event<> Change;
   // Set the flag to keep the focus.

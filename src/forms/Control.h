@@ -73,11 +73,20 @@ class Control {
   Align Alignment() const { return alignment_; }
   void SetAlignment(Align alignment);
 
+  // Whether it shows: it, its containers, its window and the windows around that are visible.
+  bool Shown() const;
+  // Whether the user can act on it: it shows, and it and its containers are enabled.
+  bool Reachable() const;
+
+  // Moves the focus here, without asking the control that has it. Taken in a hidden window too, but
+  // not by a control that is itself, or in a container that is, invisible or disabled.
   void SetFocus();
   Handle WindowHandle() const;
 
   // The user's click, from the screen's side; disabled controls get none.
   virtual void UserClick();
+  // The user wants to move the focus off the control; false keeps it there.
+  virtual bool UserLeaves() { return true; }
 
   Event<> Click;
   MouseEvent MouseDown;
@@ -96,6 +105,9 @@ class Control {
   void Changed(Aspect aspect);
 
  private:
+  void GiveFocusAway();
+  bool TakesFocus() const;
+
   Form& form_;
   Control* container_ = nullptr;
   std::string name_;

@@ -81,6 +81,8 @@ class OptionButton : public CaptionedControl {
   void UserClick() override;
 
  private:
+  void ClearOthers();
+
   bool value_;
 };
 
@@ -134,11 +136,13 @@ class ProgressBar : public Control {
   int Value() const { return value_; }
   // Error 380 for a value outside Min to Max.
   void SetValue(int value);
-  // Error 380 for a range that is empty; a value outside it is drawn to its nearer end.
+  // Error 380 for a range that is empty; a value outside it moves to its nearer end.
   void SetMin(int min);
   void SetMax(int max);
 
  private:
+  void SetRange(int min, int max);
+
   int min_ = 0;
   int max_ = 100;
   int value_ = 0;

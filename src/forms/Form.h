@@ -54,23 +54,34 @@ class Form {
   const std::vector<Control*>& Controls() const { return controls_; }
   // The menus of the bar, invisible ones included.
   const std::vector<Menu*>& Menus() const { return menus_; }
+  // Every menu and entry, in the order of making, which is that of the identifiers.
+  const std::vector<Menu*>& AllMenus() const { return allMenus_; }
   // The entry with the identifier, nullptr if there is none.
   Menu* FindMenu(int identifier) const;
   // The control of the name ("cmdstart", "optBit(8)"), without regard to case, nullptr for none.
   Control* FindControl(const std::string& name) const;
+  // The controls that Tab visits now, in its order: those of this window that the user can reach,
+  // then those of the windows hosted in it.
+  std::vector<Control*> TabOrder() const;
+  // The next one behind (or before) `from`, round about; nullptr if Tab visits none.
+  Control* NextTabStop(const Control* from, bool backwards = false) const;
 
-  // Makes the window and raises Load, unless it is loaded.
+  // Makes the window and raises Load, unless it is loaded. Initialize is raised before the first
+  // time only.
   void EnsureLoaded();
   bool Loaded() const { return loaded_; }
   // Raises QueryUnload with the mode, then Unload; either may cancel. Then the window is gone.
   // A window that is in its Unload handler already is left to it.
   void Unload(int mode = UnloadByCode);
 
+  // Loads the window if need be, shows it and makes it active.
   void Show();
   // Returns when the window has been hidden or unloaded.
   void ShowModal();
   void Hide();
   bool Visible() const { return visible_; }
+  // Whether it shows: it and the windows that host it are visible.
+  bool Shown() const;
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(const std::string& caption);
@@ -78,6 +89,7 @@ class Form {
   int Top() const { return place_.Top; }
   int Width() const { return place_.Width; }
   int Height() const { return place_.Height; }
+  // A change of size or state raises Resize, from code as from the user.
   void SetWidth(int twips);
   void SetHeight(int twips);
   forms::WindowState WindowState() const { return state_; }
@@ -96,11 +108,13 @@ class Form {
   // The window takes part in Tab and shows within this one from now on; told by whoever hosts it.
   void SetHost(Form* host) { host_ = host; }
   Form* Host() const { return host_; }
+  // The window that it shows within in the end, itself if nobody hosts it.
+  Form& Outermost();
   void PopupMenu(Menu& menu);
 
-  // From the screen's side.
+  // From the screen's side, in twips; a minimized window keeps the size it had.
   void UserResizes(int width, int height, forms::WindowState state);
-  // Raises Activate if another window was the active one.
+  // Raises Activate if another window was the active one and this one shows.
   void BecomesActive();
 
   Event<> Initialize;
@@ -121,6 +135,10 @@ class Form {
 
   void Changed(Aspect aspect);
   void SetVisible(bool visible);
+  void SetSize(int width, int height);
+  void RaiseResize();
+  void Destroy();
+  void LetHostedGo();
 
   Toolkit& toolkit_;
   std::string name_;
@@ -135,7 +153,9 @@ class Form {
   forms::ScaleMode scaleMode_ = forms::ScaleMode::Twips;
   int mousePointer_ = 0;
   Form* host_ = nullptr;
+  unsigned resizes_ = 0;
   bool visible_ = false;
+  bool initialized_ = false;
   bool loaded_ = false;
   bool unloading_ = false;
   std::unique_ptr<FormPeer> peer_;

@@ -111,6 +111,9 @@ class ListView : public Control {
  private:
   friend class ListItem;
 
+  void RequireRow(int index) const;
+  void TakeKey(ListItem& item, const std::string& key);
+
   ListViewDesign list_;
   std::vector<std::unique_ptr<ListItem>> rows_;
   std::unordered_map<std::string, ListItem*> byKey_;

@@ -13,6 +13,7 @@
 
 namespace vantrel::forms {
 
+class Control;
 class Form;
 
 // Thrown to end the process: it unwinds through every handler and pump to the entry point.
@@ -41,8 +42,9 @@ class Toolkit {
   void ThrowIfEnding() const;
 
   // Runs one event from outside (a message, a tick) to its end. An untrapped RuntimeError goes to
-  // OnUntrappedError, any other exception there as one; EndProgram marks the toolkit as ending.
-  // Nothing is thrown.
+  // OnUntrappedError, any other exception there as the nearest one (7 for exhausted memory, else
+  // 5); EndProgram marks the toolkit as ending. Nothing is thrown. Once the program is ending, no
+  // event runs any more.
   void AtBorder(const std::function<void()>& event) noexcept;
 
   // Shows an untrapped error; bound by the program.
@@ -51,11 +53,23 @@ class Toolkit {
   // The loaded forms in the order of their creation.
   const std::vector<Form*>& LoadedForms() const { return loadedForms_; }
 
+  // The window that is active among the program's own, nullptr for none.
+  Form* ActiveForm() const { return activeForm_; }
+  // The control that has the focus, nullptr for none.
+  Control* Focus() const { return focus_; }
+  // From the screen's side: the user moves the focus, to nullptr when it leaves the program's
+  // controls. Asks the control that is being left (a combo box raises Validate), then raises
+  // LostFocus and GotFocus. False if the focus is to stay, or to go back, where it was.
+  bool UserMovesFocus(Control* to);
+  // From code: the same without asking.
+  void MoveFocus(Control* to);
+
   // The pointer over all windows: 0 default, 11 hourglass.
   int ScreenPointer() const { return screenPointer_; }
   void SetScreenPointer(int pointer);
 
-  // Keeps a window that was unloaded until no event is running that could still use it.
+  // Keeps a window that was unloaded until the outermost border ends, since an event that is
+  // running could still use it; outside all borders, until the next one ends.
   void Discard(std::unique_ptr<Form> form);
 
  protected:
@@ -63,10 +77,19 @@ class Toolkit {
   virtual void ScreenPointerChanged() {}
 
  private:
+  friend class Control;
   friend class Form;
+
+  void Report(const text::RuntimeError& error) noexcept;
+  void EndOfBorder() noexcept;
+  void Transfer(Control* to, bool tellPeer);
+  // The window no longer shows: neither it nor what it hosts is active or has the focus.
+  void Leave(const Form& form, bool raiseLostFocus);
 
   std::vector<Form*> loadedForms_;
   std::vector<std::unique_ptr<Form>> discarded_;
+  Form* activeForm_ = nullptr;
+  Control* focus_ = nullptr;
   int depth_ = 0;
   int screenPointer_ = 0;
   bool ending_ = false;
