@@ -3,7 +3,7 @@
 #
 #   StartDisplay               own Xvfb on a free number; sets DISPLAY
 #   UseWine ARCH PREFIX        chooses 64-bit (x64) or 32-bit (x86) Wine and the prefix folder
-#   PrepareWine                makes the prefix when it is new, then keeps its server alive
+#   PrepareWine [user]         makes the prefix when it is new, then keeps its server alive
 #   Wine PROGRAM [ARG...]      runs a Windows program in the prefix
 #   StopWine, StopDisplay      end what the two above have started
 #
@@ -65,30 +65,32 @@ Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
 # The server behind Debian's wrapper script, which would force its own option -p0 on it.
 WineServer() { "${wineLauncher[@]}" /usr/lib/wine/wineserver "$@"; }
 
-# A desktop window of Wine's own: without a window manager, keys reach programs and captions are
-# drawn only inside one.
-UseOwnDesktop() {
-  Wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
-  Wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1280x1024 /f >/dev/null
-}
-
-# The user's own desktop, with its window manager and tray.
-UseUserDesktop() {
-  Wine reg delete 'HKCU\Software\Wine\Explorer' /v Desktop /f >/dev/null 2>&1 || true
-}
-
+# PrepareWine [user]: on Wine's own desktop window, because without a window manager keys reach
+# programs and captions are drawn only inside one; or on the user's desktop, with its tray.
 PrepareWine() {
+  local log=$WINEPREFIX.data/prepare.log explorer='HKCU\Software\Wine\Explorer'
   mkdir -p "$WINEPREFIX" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
-  if [[ ! -e $WINEPREFIX/vantrel-ready ]]; then
-    Wine wineboot -i >/dev/null 2>&1 </dev/null
-    UseOwnDesktop
-    WineServer -w
-    # Debian's Wine does not look into its own font folder by itself: without these fonts
-    # captions come out bold and wide, and caption buttons as letters.
-    ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
-    touch "$WINEPREFIX/vantrel-ready"
-  fi
-  WineServer -p >/dev/null 2>&1 || true
+  # Everything that stays in the background gets no pipe of the caller's: whoever reads that
+  # pipe to its end would wait for ever.
+  {
+    if [[ ! -e $WINEPREFIX/vantrel-ready ]]; then
+      Wine wineboot -i || return 1
+      WineServer -w
+      # Debian's Wine does not look into its own font folder by itself: without these fonts
+      # captions come out bold and wide, and caption buttons as letters.
+      ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
+      touch "$WINEPREFIX/vantrel-ready"
+    fi
+    WineServer -p || true
+    if [[ ${1:-} == user ]]; then
+      Wine reg delete "$explorer" /v Desktop /f || true
+    else
+      Wine reg add "$explorer" /v Desktop /d Default /f || return 1
+      Wine reg add "$explorer\\Desktops" /v Default /d 1280x1024 /f || return 1
+      Wine explorer /desktop=Default,1280x1024 &
+    fi
+    Wine cmd /c exit
+  } >"$log" 2>&1 </dev/null
 }
 
 StopWine() {
