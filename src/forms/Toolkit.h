@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "forms/Event.h"
 #include "forms/Peer.h"
 #include "text/RuntimeError.h"
 
@@ -49,6 +50,9 @@ class Toolkit {
 
   // Shows an untrapped error; bound by the program.
   std::function<void(const text::RuntimeError&)> OnUntrappedError;
+
+  // The shell has made a new notification area, which knows no icons yet.
+  Event<> TaskbarCreated;
 
   // The loaded forms in the order of their creation.
   const std::vector<Form*>& LoadedForms() const { return loadedForms_; }

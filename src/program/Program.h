@@ -37,6 +37,8 @@ class Program {
   std::int32_t TotalBlocked = 0;
   // The folder preselected in the folder picker while it is open.
   std::string BrowseStartPath;
+  // The record of the one tray icon, as it was last handed to the shell.
+  platform::NotifyIconData TrayIcon;
   // A window procedure; never assigned, so it stays 0.
   std::int32_t OldWindowProc = 0;
 

@@ -1,0 +1,101 @@
+#include "shell/CommandChannel.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "shell/Navigation.h"
+#include "shell/bmdlActivate.h"
+#include "text/Strings.h"
+
+namespace vantrel::shell {
+namespace {
+
+using program::Program;
+using Operation = void (*)(Program&);
+
+// The dialog alone: the main window stays hidden in the tray.
+void CustomizeToolbar(Program& program) {
+  program.windows.frmMain->Hide();
+  program.windows.frmcustom->Show();
+}
+
+void ToggleBlocking(Program& program) {
+  CaseWelcome(program);
+  auto& panel = *program.windows.FrmFrameMain;
+  forms::CommandButton& button = panel.cmdstart.Enabled() ? panel.cmdstart : panel.cmdstop;
+  button.SetValue(true);
+}
+
+void ShowMainWindow(Program& program) { program.windows.frmMain->Show(); }
+
+void LoadAndShowToolbar(Program& program) {
+  program.windows.frmMain->Hide();
+  program.windows.frmcustom->EnsureLoaded();
+  program.windows.frmcustom->Show();
+}
+
+// The toggle's row of OneGulp looks whether blocking could be started and leaves it at that; this
+// is meant.
+void ShowWelcomeWithoutToggle(Program& program) {
+  CaseWelcome(program);
+  static_cast<void>(program.windows.FrmFrameMain->cmdstart.Enabled());
+  ShowMainWindow(program);
+}
+
+struct Command {
+  const char* text;
+  Operation dispatched;
+  bool showsMainWindow;
+  Operation gulped;
+};
+
+constexpr Command Commands[] = {
+    {"/customtoolbar", CustomizeToolbar, false, LoadAndShowToolbar},
+    {"/clean", CaseClean, true, CaseClean},
+    {"/addlinks", CaseAllow, true, CaseAllow},
+    {"/onoff", ToggleBlocking, true, ShowWelcomeWithoutToggle},
+    {"/notify", CaseNotify, true, CaseNotify},
+    {"/graph", CaseGraph, true, CaseGraph},
+    {"/iesettings", CaseIESettings, true, CaseIESettings},
+    {"/ieplugins", CaseIEPlugins, true, CaseIEPlugins},
+    {"/options", CaseSettings, true, CaseSettings},
+};
+
+const Command* FindCommand(const std::string& command) {
+  const std::string wanted = text::LowerCase(command);
+  const auto* row = std::find_if(std::begin(Commands), std::end(Commands),
+                                 [&wanted](const Command& c) { return wanted == c.text; });
+  return row == std::end(Commands) ? nullptr : row;
+}
+
+void TraceCommand(Program& program, const std::string& command) {
+  forms::TextBox& trace = program.windows.frmMain->Text1;
+  const std::string before = trace.Text().empty() ? std::string() : trace.Text() + "\r\n";
+  trace.SetText(before + "Excuted with command: " + command);
+}
+
+}  // namespace
+
+void cmdDummy_Click(Program& program) {
+  DispatchCommand(program, program.windows.frmMain->cmdDummy.Caption());
+  program.windows.frmMain->cmdDummy.SetCaption(ReadyForCommand);
+}
+
+void DispatchCommand(Program& program, const std::string& command) {
+  TraceCommand(program, command);
+  program.windows.frmMain->Hide();
+  const Command* row = FindCommand(command);
+  if (row != nullptr) row->dispatched(program);
+  if (row == nullptr || row->showsMainWindow) ShowMainWindow(program);
+}
+
+void OneGulp(Program& program, const std::string& command) {
+  const Command* row = FindCommand(command);
+  (row != nullptr ? row->gulped : CaseWelcome)(program);
+}
+
+void AttachCommandChannel(Program& program, windows::frmMain& form) {
+  form.cmdDummy.Click = [&program] { cmdDummy_Click(program); };
+}
+
+}  // namespace vantrel::shell

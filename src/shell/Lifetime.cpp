@@ -1,0 +1,86 @@
+#include "shell/Lifetime.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "settings/Schema.h"
+#include "settings/bmdlReg.h"
+#include "shell/Navigation.h"
+
+namespace vantrel::shell {
+namespace {
+
+using program::Program;
+
+constexpr int SmallestWidth = 9300;
+constexpr int SmallestHeight = 6825;
+constexpr int GwlWndProc = -4;
+
+void WriteDisabled(Program& program) {
+  settings::WriteRegistryValue(program.platform.registry, platform::HKeyCurrentUser,
+                               settings::BlockSettingsKey, "GDisabled", 1, platform::RegDword);
+}
+
+void frmMain_Resize(windows::frmMain& form) {
+  if (form.WindowState() != forms::WindowState::Normal) return;
+  if (form.Width() < SmallestWidth) form.SetWidth(SmallestWidth);
+  if (form.Height() < SmallestHeight) form.SetHeight(SmallestHeight);
+}
+
+void HideToTray(Program& program, bool& cancel) {
+  HideAll(program);
+  program.windows.frmMain->Hide();
+  cancel = true;
+  WriteDisabled(program);
+  RestoreWindowProc(program, *program.windows.frmMain);
+}
+
+void CloseForGood(Program& program) {
+  RestoreWindowProc(program, *program.windows.frmMain);
+  program.windows.frmMain->Unload();
+  // Once more, for the case that the unload returned.
+  WriteDisabled(program);
+  UnloadAllForms(program);
+  program.toolkit.End();
+}
+
+void frmMain_QueryUnload(Program& program, bool& cancel, int mode) {
+  if (mode != forms::UnloadByCloseBox) return;
+  if (program.windows.FrmFrameSettings->chkGHideSystray.Value() == forms::Checked) {
+    HideToTray(program, cancel);
+  } else {
+    CloseForGood(program);
+  }
+}
+
+void frmMain_Unload(Program& program, windows::frmMain& form) {
+  WriteDisabled(program);
+  UnloadAllForms(program);
+  form.Unload();
+  program.toolkit.End();
+}
+
+}  // namespace
+
+void UnloadAllForms(Program& program) {
+  // The list shrinks on the way, and an unload may unload others.
+  const std::vector<forms::Form*> loaded = program.toolkit.LoadedForms();
+  for (forms::Form* form : loaded) {
+    const auto& still = program.toolkit.LoadedForms();
+    if (std::find(still.begin(), still.end(), form) != still.end()) form->Unload();
+  }
+}
+
+void RestoreWindowProc(Program& program, forms::Form& form) {
+  program.platform.desktop.SetWindowLongA(form.hWnd(), GwlWndProc, program.OldWindowProc);
+}
+
+void AttachLifetime(Program& program, windows::frmMain& form) {
+  form.Resize = [&form] { frmMain_Resize(form); };
+  form.QueryUnload = [&program](bool& cancel, int mode) {
+    frmMain_QueryUnload(program, cancel, mode);
+  };
+  form.Unloading = [&program, &form](bool&) { frmMain_Unload(program, form); };
+}
+
+}  // namespace vantrel::shell
