@@ -1,0 +1,406 @@
+#include "controls/HyperLink.h"
+
+#include <string_view>
+
+#include "forms/Form.h"
+#include "text/ErrorTrap.h"
+#include "text/Numbers.h"
+#include "text/Strings.h"
+
+namespace vantrel::controls {
+namespace {
+
+constexpr const char* DefaultCaption = "Hyperlink AX II";
+// Meant to differ from the caption that a missing entry reads as.
+constexpr const char* UnsavedCaption = "Hyperlink AX";
+
+std::string BooleanText(bool value) { return value ? "-1" : "0"; }
+bool Boolean(const std::string& text) { return text::CInt(text) != 0; }
+
+// The reverse of ColorText; plain decimal numbers are read as well.
+forms::Color ColorOf(const std::string& text) {
+  if (text::EqualIgnoringCase(text.substr(0, 2), "&H")) return text::HexToNumber(text.substr(2));
+  return static_cast<forms::Color>(text::CLng(text));
+}
+
+// A font is written as its name, its size in tenths of a point, and its two flags.
+std::string FontText(const forms::Font& font) {
+  return std::string(font.Name) + ";" + std::to_string(text::RoundToLong(font.Size * 10)) + ";" +
+         BooleanText(font.Bold) + ";" + BooleanText(font.Underline);
+}
+
+[[noreturn]] void RaiseInvalidValue() {
+  throw text::RuntimeError(text::ErrorNumber::InvalidPropertyValue);
+}
+
+}  // namespace
+
+// One row a property: its text, the defaults of reading and of writing, and how a text becomes
+// its value.
+struct HyperLink::Property {
+  const char* Name;
+  std::string (*Text)(const HyperLink&);
+  std::string (*ReadDefault)(const HyperLink&);
+  std::string (*WriteDefault)(const HyperLink&);
+  void (*Assign)(HyperLink&, const std::string&);
+};
+
+namespace {
+
+template <bool value>
+std::string DefaultBoolean(const HyperLink&) {
+  return BooleanText(value);
+}
+
+template <int value>
+std::string DefaultNumber(const HyperLink&) {
+  return std::to_string(value);
+}
+
+std::string DefaultAddress(const HyperLink&) { return HyperLink::SampleAddress; }
+std::string DefaultHoverColor(const HyperLink&) {
+  return HyperLink::ColorText(forms::palette::DefaultHover);
+}
+
+}  // namespace
+
+const HyperLink::Property HyperLink::Properties[] = {
+    {"font", [](const HyperLink& link) { return FontText(link.Font()); },
+     [](const HyperLink& link) { return FontText(link.ContainerFont()); },
+     [](const HyperLink& link) { return FontText(link.ContainerFont()); },
+     [](HyperLink& link, const std::string& text) { link.ReadFont(text); }},
+    {"enabled", [](const HyperLink& link) { return BooleanText(link.Enabled()); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) { link.ShowEnabled(Boolean(text)); }},
+    {"caption", [](const HyperLink& link) { return link.Caption(); },
+     [](const HyperLink&) { return std::string(DefaultCaption); },
+     [](const HyperLink&) { return std::string(UnsavedCaption); },
+     [](HyperLink& link, const std::string& text) { link.lblHyperlink.SetCaption(text); }},
+    {"alignment", [](const HyperLink& link) { return std::to_string(link.Alignment()); },
+     DefaultNumber<0>, DefaultNumber<0>,
+     [](HyperLink& link, const std::string& text) { link.ShowAlignment(text::CInt(text)); }},
+    {"autosize", [](const HyperLink& link) { return BooleanText(link.AutoSize()); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) {
+       link.lblHyperlink.SetAutoSize(Boolean(text));
+     }},
+    {"hyperlink", [](const HyperLink& link) { return link.address_; }, DefaultAddress,
+     DefaultAddress, [](HyperLink& link, const std::string& text) { link.address_ = text; }},
+    {"hovercolor", [](const HyperLink& link) { return ColorText(link.hoverColor_); },
+     DefaultHoverColor, DefaultHoverColor,
+     [](HyperLink& link, const std::string& text) { link.hoverColor_ = ColorOf(text); }},
+    {"appearance", [](const HyperLink& link) { return std::to_string(link.appearance_); },
+     DefaultNumber<1>, DefaultNumber<1>,
+     [](HyperLink& link, const std::string& text) { link.appearance_ = text::CInt(text); }},
+    {"borderstyle", [](const HyperLink& link) { return std::to_string(link.borderStyle_); },
+     DefaultNumber<0>, DefaultNumber<0>,
+     [](HyperLink& link, const std::string& text) { link.borderStyle_ = text::CInt(text); }},
+    {"forecolor", [](const HyperLink& link) { return ColorText(link.ForeColor()); },
+     [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
+     [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
+     [](HyperLink& link, const std::string& text) { link.ShowForeColor(ColorOf(text)); }},
+    {"backcolor", [](const HyperLink& link) { return ColorText(link.BackColor()); },
+     [](const HyperLink& link) { return ColorText(link.ContainerBackColor()); },
+     [](const HyperLink& link) { return ColorText(link.ContainerBackColor()); },
+     [](HyperLink& link, const std::string& text) { link.ShowBackColor(ColorOf(text)); }},
+    {"autotooltip", [](const HyperLink& link) { return BooleanText(link.autoToolTip_); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) { link.autoToolTip_ = Boolean(text); }},
+    {"soundon", [](const HyperLink& link) { return BooleanText(link.soundOn_); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) { link.soundOn_ = Boolean(text); }},
+    {"soundid", [](const HyperLink& link) { return std::to_string(link.soundId_); },
+     DefaultNumber<101>, DefaultNumber<101>,
+     [](HyperLink& link, const std::string& text) { link.soundId_ = text::CInt(text); }},
+    {"mounderline", [](const HyperLink& link) { return BooleanText(link.moUnderline_); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) { link.moUnderline_ = Boolean(text); }},
+    {"mopointer", [](const HyperLink& link) { return BooleanText(link.moPointer_); },
+     DefaultBoolean<true>, DefaultBoolean<true>,
+     [](HyperLink& link, const std::string& text) { link.moPointer_ = Boolean(text); }},
+};
+
+HyperLink::HyperLink(forms::Form& form, std::string name, const forms::Design& design,
+                     const PropertyBag& saved)
+    : UserControl(form, std::move(name), design),
+      lblHyperlink(*this, "lblHyperlink",
+                   {.Caption = DefaultCaption,
+                    .At = {0, 0, design.At.Width, design.At.Height},
+                    .TextFont = {.Name = "Tahoma"}}),
+      myTimer(*this, "myTimer", PollInterval, false) {
+  Initialize(saved);
+}
+
+HyperLink::HyperLink(forms::Control& container, std::string name, const forms::Design& design,
+                     const PropertyBag& saved)
+    : UserControl(container, std::move(name), design),
+      lblHyperlink(*this, "lblHyperlink",
+                   {.Caption = DefaultCaption,
+                    .At = {0, 0, design.At.Width, design.At.Height},
+                    .TextFont = {.Name = "Tahoma"}}),
+      myTimer(*this, "myTimer", PollInterval, false) {
+  Initialize(saved);
+}
+
+void HyperLink::Initialize(const PropertyBag& saved) {
+  lblHyperlink.Click = [this] { LabelClicked(); };
+  lblHyperlink.Change = [this] { LabelChanged(); };
+  lblHyperlink.MouseMove = [this](int button, int shift, float x, float y) {
+    LabelMoved(button, shift, x, y);
+  };
+  lblHyperlink.MouseDown = [this](int button, int shift, float x, float y) {
+    MouseDown(button, shift, x, y);
+  };
+  lblHyperlink.MouseUp = [this](int button, int shift, float x, float y) {
+    MouseUp(button, shift, x, y);
+  };
+  // The label fills the surface: a move over the surface is one over the label.
+  MouseMove = [this](int button, int shift, float x, float y) { LabelMoved(button, shift, x, y); };
+  myTimer.Tick = [this] { TimerTicked(); };
+  ReadProperties(saved);
+  SetWindowText(Caption());
+}
+
+std::string HyperLink::ColorText(forms::Color color) {
+  constexpr char digits[] = "0123456789ABCDEF";
+  std::string text = "&H";
+  for (int shift = 28; shift >= 0; shift -= 4) text += digits[(color >> shift) & 0xFU];
+  return text;
+}
+
+void HyperLink::SetFont(const forms::Font& font) {
+  ShowFont(font);
+  PropertyChanged("Font");
+  SyncSize();
+}
+
+void HyperLink::SetEnabled(bool enabled) {
+  ShowEnabled(enabled);
+  PropertyChanged("Enabled");
+}
+
+void HyperLink::SetCaption(const std::string& caption) {
+  lblHyperlink.SetCaption(caption);
+  PropertyChanged("Caption");
+  SyncSize();
+}
+
+void HyperLink::SetAlignment(std::int16_t alignment) {
+  ShowAlignment(alignment);
+  PropertyChanged("Alignment");
+  SyncSize();
+}
+
+void HyperLink::SetAutoSize(bool autoSize) {
+  lblHyperlink.SetAutoSize(autoSize);
+  PropertyChanged("AutoSize");
+  SyncSize();
+}
+
+void HyperLink::SetHyperLink(const std::string& address) {
+  address_ = text::Trim(address);
+  PropertyChanged("HyperLink");
+}
+
+void HyperLink::SetHoverColor(forms::Color color) {
+  hoverColor_ = color;
+  PropertyChanged("HoverColor");
+}
+
+void HyperLink::SetAppearance(std::int16_t appearance) {
+  appearance_ = appearance;
+  PropertyChanged("Appearance");
+}
+
+void HyperLink::SetBorderStyle(std::int16_t borderStyle) {
+  borderStyle_ = borderStyle;
+  PropertyChanged("BorderStyle");
+}
+
+void HyperLink::SetForeColor(forms::Color color) {
+  ShowForeColor(color);
+  PropertyChanged("ForeColor");
+}
+
+void HyperLink::SetBackColor(forms::Color color) {
+  ShowBackColor(color);
+  PropertyChanged("BackColor");
+}
+
+void HyperLink::SetAutoToolTip(bool autoToolTip) {
+  autoToolTip_ = autoToolTip;
+  PropertyChanged("AutoToolTip");
+}
+
+void HyperLink::SetSoundOn(bool soundOn) {
+  soundOn_ = soundOn;
+  PropertyChanged("SoundOn");
+}
+
+void HyperLink::SetSoundID(std::int16_t soundId) {
+  soundId_ = soundId;
+  PropertyChanged("SoundID");
+}
+
+void HyperLink::SetMOUnderline(bool underline) {
+  moUnderline_ = underline;
+  PropertyChanged("MOUnderline");
+}
+
+void HyperLink::SetMOPointer(bool pointer) {
+  moPointer_ = pointer;
+  PropertyChanged("MOPointer");
+}
+
+void HyperLink::ReadProperties(const PropertyBag& bag) {
+  for (const Property& property : Properties) {
+    property.Assign(*this, bag.ReadProperty(property.Name, property.ReadDefault(*this)));
+  }
+  SyncSize();
+}
+
+void HyperLink::WriteProperties(PropertyBag& bag) const {
+  bag.WriteProperty("_extentx", std::to_string(At().Width));
+  bag.WriteProperty("_extenty", std::to_string(At().Height));
+  for (const Property& property : Properties) {
+    bag.WriteProperty(property.Name, property.Text(*this), property.WriteDefault(*this));
+  }
+}
+
+bool HyperLink::IsMouseOver() const {
+  if (platform_ == nullptr) return false;
+  platform::Desktop& desktop = platform_->desktop;
+  return desktop.WindowFromPoint(desktop.GetCursorPos()) == WindowHandle();
+}
+
+void HyperLink::MouseLeave() {
+  text::ErrorTrap trap;
+  isOver_ = false;
+  trap([&] { ShowForeColor(savedForeColor_); });
+  if (moUnderline_ && !ContainerFont().Underline) trap([&] { ShowUnderline(false); });
+  // Meant: the same pointer as on entering.
+  if (moPointer_) trap([&] { ShowPointer(forms::PointerCustom); });
+  trap([&] { MouseOut(); });
+}
+
+void HyperLink::SyncSize() {
+  if (AutoSize()) {
+    const forms::Place& label = lblHyperlink.At();
+    Move({At().Left, At().Top, label.Width, label.Height});
+  } else {
+    lblHyperlink.Move({0, 0, At().Width, At().Height});
+  }
+}
+
+void HyperLink::UserClick() { lblHyperlink.UserClick(); }
+
+const forms::Font& HyperLink::ContainerFont() const {
+  static const forms::Font dialogFont;
+  return Container() != nullptr ? Container()->TextFont() : dialogFont;
+}
+
+forms::Color HyperLink::ContainerForeColor() const {
+  return Container() != nullptr ? Container()->ForeColor() : forms::palette::WindowText;
+}
+
+forms::Color HyperLink::ContainerBackColor() const {
+  return Container() != nullptr ? Container()->BackColor() : Owner().BackColor();
+}
+
+void HyperLink::ShowFont(const forms::Font& font) {
+  forms::Font own = font;
+  own.Name = fontNames_.insert(font.Name).first->c_str();
+  lblHyperlink.SetTextFont(own);
+  SetTextFont(own);
+}
+
+void HyperLink::ShowForeColor(forms::Color color) {
+  lblHyperlink.SetForeColor(color);
+  Control::SetForeColor(color);
+}
+
+void HyperLink::ShowBackColor(forms::Color color) {
+  lblHyperlink.SetBackColor(color);
+  Control::SetBackColor(color);
+}
+
+void HyperLink::ShowEnabled(bool enabled) {
+  lblHyperlink.SetEnabled(enabled);
+  Control::SetEnabled(enabled);
+}
+
+void HyperLink::ShowAlignment(std::int16_t alignment) {
+  if (alignment < 0 || alignment > 2) RaiseInvalidValue();
+  lblHyperlink.SetAlignment(static_cast<forms::Align>(alignment));
+  Control::SetAlignment(static_cast<forms::Align>(alignment));
+}
+
+void HyperLink::ShowPointer(int pointer) {
+  lblHyperlink.SetMousePointer(pointer);
+  SetMousePointer(pointer);
+}
+
+void HyperLink::ShowUnderline(bool underline) {
+  forms::Font font = Font();
+  font.Underline = underline;
+  ShowFont(font);
+}
+
+void HyperLink::ShowToolTip() {
+  lblHyperlink.SetToolTipText(autoToolTip_ ? address_ : ToolTipText());
+  Changed(forms::Aspect::ToolTip);
+}
+
+void HyperLink::ReadFont(const std::string& text) {
+  const std::vector<std::string> parts = text::Split(text, ';');
+  if (parts.size() != 4) RaiseInvalidValue();
+  forms::Font font;
+  font.Name = parts[0].c_str();
+  font.Size = text::CInt(parts[1]) / 10.0;
+  font.Bold = Boolean(parts[2]);
+  font.Underline = Boolean(parts[3]);
+  ShowFont(font);
+}
+
+void HyperLink::LabelMoved(int button, int shift, float x, float y) {
+  if (isOver_) return;
+  isOver_ = true;
+  if (moPointer_) ShowPointer(forms::PointerCustom);
+  savedForeColor_ = ForeColor();
+  ShowForeColor(hoverColor_);
+  if (moUnderline_) ShowUnderline(true);
+  ShowToolTip();
+  myTimer.SetEnabled(true);
+  MouseOver(button, shift, x, y);
+}
+
+void HyperLink::LabelClicked() {
+  text::ErrorTrap trap;
+  if (!address_.empty()) OpenAddress();
+  trap([&] { Click(); });
+}
+
+void HyperLink::OpenAddress() {
+  text::ErrorTrap trap;
+  forms::Toolkit& tools = Owner().Tools();
+  const int pointer = tools.ScreenPointer();
+  trap([&] { tools.SetScreenPointer(forms::PointerHourglass); });
+  trap([&] {
+    if (platform_ != nullptr) platform_->shell.ShellExecuteA(0, "Open", address_, "", "", 1);
+  });
+  trap([&] { tools.SetScreenPointer(pointer); });
+}
+
+void HyperLink::LabelChanged() {
+  SetWindowText(Caption());
+  SyncSize();
+  Change();
+}
+
+void HyperLink::TimerTicked() {
+  if (IsMouseOver()) return;
+  MouseLeave();
+  myTimer.SetEnabled(false);
+}
+
+}  // namespace vantrel::controls

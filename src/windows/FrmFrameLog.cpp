@@ -1,0 +1,8 @@
+#include "windows/FrmFrameLog.h"
+
+namespace vantrel::windows {
+
+FrmFrameLog::FrmFrameLog(forms::Toolkit& toolkit)
+    : Form(toolkit, "FrmFrameLog", PanelDesign("Detail Log")) {}
+
+}  // namespace vantrel::windows
