@@ -5,13 +5,14 @@ import importlib.machinery
 import importlib.util
 import io
 import os
+import sys
 import tempfile
 import unittest
 
 TOOL = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools", "results")
 loader = importlib.machinery.SourceFileLoader("results", TOOL)
 results = importlib.util.module_from_spec(importlib.util.spec_from_loader("results", loader))
-results.sys.dont_write_bytecode = True
+sys.dont_write_bytecode = True  # no cache folder beside the tool
 loader.exec_module(results)
 
 PASSED = '<testcase classname="A" name="One" status="run"/>'
