@@ -1,6 +1,7 @@
 # The program folder as it is installed: build/stage/x64 or x86, with the executable, the help
 # pages, the sounds and the empty settings folder.
-set(VANTREL_STAGE "${PROJECT_SOURCE_DIR}/build/stage/${VANTREL_WINDOWS_ARCH}")
+set(VANTREL_STAGE "${PROJECT_SOURCE_DIR}/build/stage/${VANTREL_WINDOWS_ARCH}"
+    CACHE INTERNAL "The staged program folder")
 add_custom_target(
   stage ALL
   COMMAND ${CMAKE_COMMAND} -E make_directory "${VANTREL_STAGE}/Settings"

@@ -1,0 +1,256 @@
+#include "support/Running.h"
+
+#include <tlhelp32.h>
+
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+
+namespace vantrel::e2e {
+namespace {
+
+constexpr DWORD AnswerBound = 20000;
+constexpr UINT TrayMessage = WM_MOUSEMOVE;
+
+struct Enumeration {
+  DWORD processId;
+  const std::function<bool(HWND)>& visit;
+  bool stopped = false;
+};
+
+BOOL CALLBACK VisitWindow(HWND window, LPARAM parameter) {
+  auto& enumeration = *reinterpret_cast<Enumeration*>(parameter);
+  DWORD owner = 0;
+  GetWindowThreadProcessId(window, &owner);
+  if (owner == enumeration.processId && !enumeration.visit(window)) enumeration.stopped = true;
+  return enumeration.stopped ? FALSE : TRUE;
+}
+
+BOOL CALLBACK VisitTopLevel(HWND window, LPARAM parameter) {
+  auto& enumeration = *reinterpret_cast<Enumeration*>(parameter);
+  if (VisitWindow(window, parameter) == FALSE) return FALSE;
+  EnumChildWindows(window, VisitWindow, parameter);
+  return enumeration.stopped ? FALSE : TRUE;
+}
+
+// All windows of the process, children included, until one answers false.
+void ForEachWindow(DWORD processId, const std::function<bool(HWND)>& visit) {
+  Enumeration enumeration{processId, visit};
+  EnumWindows(VisitTopLevel, reinterpret_cast<LPARAM>(&enumeration));
+}
+
+bool SendBounded(HWND window, UINT message, WPARAM first, LPARAM second, DWORD_PTR& result) {
+  return SendMessageTimeoutA(window, message, first, second, SMTO_BLOCK, AnswerBound, &result) != 0;
+}
+
+std::string ClassOf(HWND window) {
+  char name[64]{};
+  GetClassNameA(window, name, sizeof(name));
+  return name;
+}
+
+// A box's text: its static with text.
+std::string BoxText(HWND box) {
+  for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    const std::string text = WindowTextOf(child);
+    if (ClassOf(child) == "Static" && !text.empty()) return text;
+  }
+  return {};
+}
+
+std::string Quoted(const std::string& path) { return '"' + path + '"'; }
+
+}  // namespace
+
+std::string ExecutablePath() {
+  const char* fromEnvironment = std::getenv("VANTREL_EXE");
+  return fromEnvironment != nullptr ? fromEnvironment : VANTREL_STAGED_EXE;
+}
+
+std::string ControlNameOf(HWND window) {
+  const auto atom =
+      static_cast<ATOM>(reinterpret_cast<std::uintptr_t>(GetPropA(window, "ControlName")));
+  char name[256]{};
+  if (atom == 0 || GlobalGetAtomNameA(atom, name, sizeof(name)) == 0) return {};
+  return name;
+}
+
+std::string WindowTextOf(HWND window) {
+  DWORD_PTR length = 0;
+  if (!SendBounded(window, WM_GETTEXTLENGTH, 0, 0, length)) return {};
+  std::string text(length + 1, '\0');
+  DWORD_PTR copied = 0;
+  SendBounded(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), copied);
+  text.resize(copied);
+  return text;
+}
+
+Running::Running(const std::string& tail, const std::string& executable) {
+  const std::string path = executable.empty() ? ExecutablePath() : executable;
+  std::string commandLine = Quoted(path) + (tail.empty() ? "" : " " + tail);
+  STARTUPINFOA startup{};
+  startup.cb = sizeof(startup);
+  if (CreateProcessA(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                     &startup, &process_) == FALSE) {
+    throw std::runtime_error("cannot start " + path + ": error " + std::to_string(GetLastError()));
+  }
+}
+
+Running::~Running() {
+  if (Alive()) {
+    TerminateProcess(process_.hProcess, 99);
+    WaitForSingleObject(process_.hProcess, AnswerBound);
+  }
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+}
+
+bool Running::Alive() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+bool Running::WaitForExit(DWORD bound) const {
+  return WaitForSingleObject(process_.hProcess, bound) == WAIT_OBJECT_0;
+}
+
+bool Running::WaitUntilIdle(DWORD bound) const {
+  bool idle = false;
+  WaitFor(
+      [&] {
+        if (!Alive() || CurrentBox()) return true;
+        idle = Find("FrmFrameMain.cmdstart") != nullptr && Find("FrmFrameLog") != nullptr &&
+               !IsEnabled("FrmFrameMain.cmdstart") &&
+               TextOf("frmMain.cmdDummy") == "Ready for command";
+        return idle;
+      },
+      bound);
+  // A message that is answered behind the start-up means that it has ended.
+  DWORD_PTR ignored = 0;
+  return idle && SendBounded(Find("frmMain"), WM_NULL, 0, 0, ignored);
+}
+
+HWND Running::Find(const std::string& controlName) const {
+  HWND found = nullptr;
+  ForEachWindow(ProcessId(), [&](HWND window) {
+    if (ControlNameOf(window) == controlName) found = window;
+    return found == nullptr;
+  });
+  return found;
+}
+
+std::vector<std::pair<std::string, HWND>> Running::Named() const {
+  std::vector<std::pair<std::string, HWND>> named;
+  ForEachWindow(ProcessId(), [&](HWND window) {
+    const std::string name = ControlNameOf(window);
+    if (!name.empty()) named.emplace_back(name, window);
+    return true;
+  });
+  return named;
+}
+
+std::string Running::TextOf(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  return window == nullptr ? "<no " + controlName + ">" : WindowTextOf(window);
+}
+
+bool Running::IsVisible(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  return window != nullptr && IsWindowVisible(window) != FALSE;
+}
+
+bool Running::IsShown(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  return window != nullptr && (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+bool Running::IsEnabled(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  return window != nullptr && IsWindowEnabled(window) != FALSE;
+}
+
+int Running::CheckOf(const std::string& controlName) const {
+  DWORD_PTR state = 0;
+  SendBounded(Find(controlName), BM_GETCHECK, 0, 0, state);
+  return static_cast<int>(state);
+}
+
+bool Running::Click(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  DWORD_PTR ignored = 0;
+  return window != nullptr && SendBounded(window, BM_CLICK, 0, 0, ignored);
+}
+
+void Running::ClickAndLeave(const std::string& controlName) const {
+  PostMessageA(Find(controlName), BM_CLICK, 0, 0);
+}
+
+void Running::MouseClick(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  RECT inside{};
+  GetClientRect(window, &inside);
+  const LPARAM middle = MAKELPARAM(inside.right / 2, inside.bottom / 2);
+  PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+  PostMessageA(window, WM_LBUTTONUP, 0, middle);
+}
+
+void Running::SetText(const std::string& controlName, const std::string& text) const {
+  DWORD_PTR ignored = 0;
+  SendBounded(Find(controlName), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()), ignored);
+}
+
+void Running::ChooseMenu(int identifier) const {
+  PostMessageA(Find("frmMain"), WM_COMMAND, MAKEWPARAM(identifier, 0), 0);
+}
+
+void Running::TrayCallback(int code) const {
+  PostMessageA(Find("FrmFrameMain"), TrayMessage, 1, code);
+}
+
+void Running::PressCloseBox() const { PostMessageA(Find("frmMain"), WM_SYSCOMMAND, SC_CLOSE, 0); }
+
+std::optional<Box> Running::CurrentBox() const {
+  std::optional<Box> box;
+  ForEachWindow(ProcessId(), [&](HWND window) {
+    if (ClassOf(window) == "#32770" && IsWindowVisible(window) != FALSE &&
+        ControlNameOf(window).empty()) {
+      box = Box{window, WindowTextOf(window), BoxText(window)};
+    }
+    return !box;
+  });
+  return box;
+}
+
+std::optional<Box> Running::WaitForBox(DWORD bound) const {
+  std::optional<Box> box;
+  WaitFor(
+      [&] {
+        box = CurrentBox();
+        return box && !box->text.empty();
+      },
+      bound);
+  return box;
+}
+
+bool Running::Answer(const Box& box, int button) const {
+  // A click by message: a box in a window that is not active ignores the mouse's.
+  PostMessageA(box.window, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+               reinterpret_cast<LPARAM>(GetDlgItem(box.window, button)));
+  return WaitFor([&] { return IsWindow(box.window) == FALSE; });
+}
+
+void EndAllCopies() {
+  HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+  PROCESSENTRY32 entry{};
+  entry.dwSize = sizeof(entry);
+  for (BOOL more = Process32First(snapshot, &entry); more != FALSE;
+       more = Process32Next(snapshot, &entry)) {
+    if (lstrcmpiA(entry.szExeFile, "Vantrel.exe") != 0) continue;
+    HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, entry.th32ProcessID);
+    if (process == nullptr) continue;
+    TerminateProcess(process, 98);
+    WaitForSingleObject(process, AnswerBound);
+    CloseHandle(process);
+  }
+  CloseHandle(snapshot);
+}
+
+}  // namespace vantrel::e2e

@@ -1,0 +1,90 @@
+// One running copy of the staged program, driven from outside: it knows the executable, captions
+// and the window property "ControlName", and nothing of the program's code.
+#ifndef VANTREL_TESTS_E2E_SUPPORT_RUNNING_H_
+#define VANTREL_TESTS_E2E_SUPPORT_RUNNING_H_
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/Wait.h"
+
+namespace vantrel::e2e {
+
+// The staged executable: VANTREL_EXE in the environment, or the build's own.
+std::string ExecutablePath();
+
+// A message box on the screen.
+struct Box {
+  HWND window = nullptr;
+  std::string title;
+  std::string text;
+};
+
+class Running {
+ public:
+  // Starts the program with the command line tail; `executable` empty for the staged one.
+  explicit Running(const std::string& tail = "", const std::string& executable = "");
+  // Ends the process if it still runs.
+  ~Running();
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+  DWORD ProcessId() const { return process_.dwProcessId; }
+  HANDLE Process() const { return process_.hProcess; }
+  bool Alive() const;
+  // Waits until the process has ended.
+  bool WaitForExit(DWORD bound = DefaultBound) const;
+  // Waits until start-up is over: the mailbox is ready and Start is pressed. Fails at once if the
+  // process ends or a box comes up.
+  bool WaitUntilIdle(DWORD bound = 30000) const;
+
+  // The window or control with this "ControlName", nullptr if there is none.
+  HWND Find(const std::string& controlName) const;
+  // All of them with their names, for messages and sweeps.
+  std::vector<std::pair<std::string, HWND>> Named() const;
+
+  std::string TextOf(const std::string& controlName) const;
+  bool IsVisible(const std::string& controlName) const;  // with all its parents
+  bool IsShown(const std::string& controlName) const;    // its own state
+  bool IsEnabled(const std::string& controlName) const;
+  int CheckOf(const std::string& controlName) const;
+
+  // Clicks as BM_CLICK does and returns when the program has handled it. False if there is no such
+  // control or the program does not answer.
+  bool Click(const std::string& controlName) const;
+  // The same without waiting, for clicks that bring up a box.
+  void ClickAndLeave(const std::string& controlName) const;
+  // A mouse click into the middle of a control that is no button (links, labels).
+  void MouseClick(const std::string& controlName) const;
+  void SetText(const std::string& controlName, const std::string& text) const;
+  // Chooses a menu entry by its identifier, as the menu itself does.
+  void ChooseMenu(int identifier) const;
+  // The tray's call with this mouse code.
+  void TrayCallback(int code) const;
+  void PressCloseBox() const;
+
+  // The message box that the program shows now.
+  std::optional<Box> CurrentBox() const;
+  // Waits for a box.
+  std::optional<Box> WaitForBox(DWORD bound = DefaultBound) const;
+  // Presses the box's button and waits until the box is gone.
+  bool Answer(const Box& box, int button = IDOK) const;
+
+ private:
+  PROCESS_INFORMATION process_{};
+};
+
+// The "ControlName" of a window of any process, empty without one.
+std::string ControlNameOf(HWND window);
+// The text by WM_GETTEXT, which also another process's edit answers.
+std::string WindowTextOf(HWND window);
+
+// Ends every running copy; for sweeping before a case.
+void EndAllCopies();
+
+}  // namespace vantrel::e2e
+
+#endif  // VANTREL_TESTS_E2E_SUPPORT_RUNNING_H_
