@@ -35,6 +35,8 @@ class Program {
   bool IsWindowsNT = false;
   // The total of the counters at start-up; read by nothing.
   std::int32_t TotalBlocked = 0;
+  // True while the box of a failed refresh of the counters is up; no second one opens then.
+  bool RefreshErrorShown = false;
   // The folder preselected in the folder picker while it is open.
   std::string BrowseStartPath;
   // The record of the one tray icon, as it was last handed to the shell.

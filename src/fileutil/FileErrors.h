@@ -1,0 +1,39 @@
+// What a system error code of a file operation means in the program's language.
+#ifndef VANTREL_FILEUTIL_FILEERRORS_H_
+#define VANTREL_FILEUTIL_FILEERRORS_H_
+
+#include <cstdint>
+
+#include "text/RuntimeError.h"
+
+namespace vantrel::fileutil {
+
+struct FileErrorRow {
+  std::int32_t Code;
+  text::ErrorNumber Number;
+};
+
+inline constexpr FileErrorRow FileErrorRows[] = {
+    {2, text::ErrorNumber::FileNotFound},       // no such file
+    {3, text::ErrorNumber::PathNotFound},       // no such folder
+    {5, text::ErrorNumber::PermissionDenied},   // refused
+    {32, text::ErrorNumber::PermissionDenied},  // locked by somebody else
+    {112, text::ErrorNumber::DiskFull},         // no room
+};
+
+// The error that belongs to a code other than 0; a device error for one without a row.
+constexpr text::ErrorNumber FileErrorNumber(std::int32_t code) {
+  for (const FileErrorRow& row : FileErrorRows) {
+    if (row.Code == code) return row.Number;
+  }
+  return text::ErrorNumber::DeviceIoError;
+}
+
+// Raises the error of a code; nothing for 0.
+inline void RaiseFileError(std::int32_t code) {
+  if (code != 0) throw text::RuntimeError(FileErrorNumber(code));
+}
+
+}  // namespace vantrel::fileutil
+
+#endif  // VANTREL_FILEUTIL_FILEERRORS_H_

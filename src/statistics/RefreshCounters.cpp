@@ -1,0 +1,78 @@
+#include "statistics/RefreshCounters.h"
+
+#include <string>
+
+#include "statistics/BlockLog.h"
+
+namespace vantrel::statistics {
+namespace {
+
+using program::Program;
+
+// What the detail log shows for a counter: the text of its box.
+const std::string& CountText(Program& program, const Counter& counter) {
+  return ((*program.windows.FrmFrameGraph).*counter.Box).Text();
+}
+
+bool RowsAreCurrent(Program& program, const forms::ListView& list) {
+  if (list.Count() != static_cast<int>(Counters.size())) return false;
+  int row = 0;
+  for (const Counter& counter : Counters) {
+    if (list.Item(++row).Sub(1).Text != CountText(program, counter)) return false;
+  }
+  return true;
+}
+
+void RebuildRows(Program& program, forms::ListView& list) {
+  list.Clear();
+  for (const Counter& counter : Counters) {
+    const std::string count = CountText(program, counter);
+    list.Add(counter.RowKey, counter.RowLabel, "").AddSubItem(counter.CountKey, count);
+  }
+}
+
+// A list that would come out as it is stays, so that nothing is repainted; like a fresh one it has
+// its first row selected.
+void ShowRows(Program& program) {
+  forms::ListView& list = program.windows.FrmFrameLog->lstLog;
+  if (!RowsAreCurrent(program, list)) {
+    RebuildRows(program, list);
+  } else if (list.SelectedIndex() != 1) {
+    list.Select(1);
+  }
+}
+
+// Keeps the flag up while the box is.
+class BoxShown {
+ public:
+  explicit BoxShown(bool& flag) : flag_(flag) { flag_ = true; }
+  ~BoxShown() { flag_ = false; }
+  BoxShown(const BoxShown&) = delete;
+  BoxShown& operator=(const BoxShown&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+void ShowRefreshError(Program& program, const text::RuntimeError& error) {
+  if (program.RefreshErrorShown) return;
+  const BoxShown shown(program.RefreshErrorShown);
+  program.MsgBox(error.Description());
+}
+
+void Refresh(Program& program, void (*read)(Program&)) {
+  try {
+    read(program);
+    ShowRows(program);
+  } catch (const text::RuntimeError& error) {
+    ShowRefreshError(program, error);
+  }
+}
+
+}  // namespace
+
+void RefreshCounters(Program& program) { Refresh(program, GetBlockLog); }
+
+void RefreshDetailLog(Program& program) { Refresh(program, InitializeBlockLog); }
+
+}  // namespace vantrel::statistics
