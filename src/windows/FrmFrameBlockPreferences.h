@@ -130,6 +130,9 @@ class FrmFrameBlockPreferences : public forms::Form {
       Frame1,
       "cmdsave",
       {.Caption = "&Save", .At = Grid(348, 256, 76, 23), .Visible = false, .Enabled = false}};
+
+  // True while a single box's handler runs, so that its write to chkAll starts no cascade.
+  bool PanelBusy = false;
 };
 
 }  // namespace vantrel::windows

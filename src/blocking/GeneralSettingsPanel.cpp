@@ -1,0 +1,93 @@
+#include "blocking/GeneralSettingsPanel.h"
+
+#include "blocking/BlockingState.h"
+#include "program/PanelHosting.h"
+#include "settings/StartWithWindowsRegistry.h"
+#include "settings/bmdlReg.h"
+#include "settings/bmdlSave.h"
+#include "shell/launch/OpenUrl.h"
+
+namespace vantrel::blocking {
+namespace {
+
+using program::Program;
+using Panel = windows::FrmFrameSettings;
+
+constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+
+struct DefaultRow {
+  forms::CheckBox Panel::*Box;
+  int State;
+};
+
+constexpr DefaultRow Defaults[] = {
+    {&Panel::chkGLog, 1},      {&Panel::chkGShowToolbar, 1}, {&Panel::chkGUpdate, 0},
+    {&Panel::chkGSWindows, 0}, {&Panel::chkGHideSystray, 0}, {&Panel::chkScript, 1},
+};
+
+void AddRunEntry(Program& program, const std::string& name, const std::string& path) {
+  platform::Registry& registry = program.platform.registry;
+  platform::KeyHandle run = 0;
+  // This handle is meant to stay open.
+  registry.RegOpenKeyExA(platform::HKeyLocalMachine, RunKey, platform::KeyShortAccess, run);
+  settings::CreateRunKey(registry, "", run);
+  settings::SetRunValue(program, platform::HKeyLocalMachine, RunKey, name, path, platform::RegSz);
+}
+
+}  // namespace
+
+void chkGShowToolbar_Click(Program& program) {
+  program.MsgBox("The changes may require a restart of Internet Explorer",
+                 platform::StyleInformation);
+  settings::SaveBlockSettingsGuarded(program);
+  Panel& panel = *program.windows.FrmFrameSettings;
+  const bool shown = panel.chkGShowToolbar.Value() == forms::Checked;
+  if (shown) {
+    AddToolbarEntry(program);
+  } else {
+    RemoveToolbarEntry(program);
+  }
+  panel.lblviewtoolbar.SetVisible(shown);
+}
+
+void chkScript_Click(Program& program) {
+  const bool disabled = program.windows.FrmFrameSettings->chkScript.Value() == forms::Checked;
+  settings::UpdateRegistryValue(program.platform.registry, platform::HKeyCurrentUser,
+                                "Software\\Microsoft\\Internet Explorer\\Main\\",
+                                "Disable Script Debugger", disabled ? "yes" : "no");
+}
+
+void chkGSWindows_Click(Program& program) {
+  // In ordinary use the click is meant to change nothing of the entry.
+  if (!settings::SaveGeneralSettingsGuarded(program)) SetStartWithWindows(program);
+}
+
+void SetStartWithWindows(Program& program) {
+  const std::string name = program.platform.system.ProgramName();
+  const std::string path = program.PathOf("\\" + name + ".exe");
+  if (program.windows.FrmFrameSettings->chkGSWindows.Value() == forms::Checked) {
+    AddRunEntry(program, name, path);
+  } else {
+    settings::DeleteRunValue(program.platform.registry, platform::HKeyLocalMachine, RunKey, name);
+  }
+}
+
+void cmdresetSettings_Click(Program& program) {
+  Panel& panel = *program.windows.FrmFrameSettings;
+  for (const DefaultRow& row : Defaults) (panel.*row.Box).SetValue(row.State);
+}
+
+void Attach(Program& program, Panel& form) {
+  form.Load = [&program, &form] { program::HostPanel(program, form); };
+  form.chkGHideSystray.Click = [&program] { settings::SaveGeneralSettingsGuarded(program); };
+  form.chkGUpdate.Click = [&program] { settings::SaveGeneralSettingsGuarded(program); };
+  form.chkGSWindows.Click = [&program] { chkGSWindows_Click(program); };
+  form.chkGLog.Click = [&program] { settings::SaveBlockSettingsGuarded(program); };
+  form.chkGShowToolbar.Click = [&program] { chkGShowToolbar_Click(program); };
+  form.chkScript.Click = [&program] { chkScript_Click(program); };
+  form.cmdresetSettings.Click = [&program] { cmdresetSettings_Click(program); };
+  form.cmdtoolbar.Click = [&program] { program.windows.frmcustom->Show(); };
+  form.Command4.Click = [&program] { launch::Open(program, launch::UpdatesPage); };
+}
+
+}  // namespace vantrel::blocking

@@ -1,0 +1,107 @@
+#include "blocking/NotificationPanel.h"
+
+#include "blocking/bmdlsound.h"
+#include "program/PanelHosting.h"
+#include "settings/bmdlSave.h"
+
+namespace vantrel::blocking {
+namespace {
+
+using program::Program;
+using settings::SaveNotificationGuarded;
+using Panel = windows::FrmFrameNotification;
+using Box = forms::CheckBox Panel::*;
+
+// The boxes that "Don't Notify at all" clears, in its order.
+constexpr Box Notifications[] = {&Panel::chkNMC, &Panel::chkNPH, &Panel::chkNPHF, &Panel::chkNS,
+                                 &Panel::chkNW};
+
+struct DefaultRow {
+  Box Of;
+  int State;
+};
+
+constexpr DefaultRow Defaults[] = {
+    {&Panel::chkNW, 0}, {&Panel::chkNS, 1}, {&Panel::chkNPH, 1}, {&Panel::chkNPHF, 1}};
+
+// Any notification ends "Don't Notify at all".
+void EndSilence(Panel& panel, const forms::CheckBox& box) {
+  if (box.Value() != forms::Unchecked) panel.chkNAll.SetValue(forms::Unchecked);
+}
+
+// One past the last entry reads as the empty text, so that no selection passes.
+bool IsListed(const forms::ComboBox& list) {
+  for (int index = 0; index <= list.ListCount(); ++index) {
+    if (list.Text() == list.List(index)) return true;
+  }
+  return false;
+}
+
+void SelectSomeSound(Panel& panel) {
+  if (panel.chkNS.Value() == forms::Checked && panel.cmbsound.ListIndex() == -1) {
+    panel.cmbsound.SetListIndex(0);
+  }
+}
+
+void SilenceEndingBox_Click(Program& program, Panel& panel, const forms::CheckBox& box) {
+  EndSilence(panel, box);
+  SaveNotificationGuarded(program);
+}
+
+}  // namespace
+
+void chkNAll_Click(Program& program) {
+  Panel& panel = *program.windows.FrmFrameNotification;
+  if (panel.chkNAll.Value() != forms::Checked) return;
+  for (const Box box : Notifications) (panel.*box).SetValue(forms::Unchecked);
+}
+
+void chkNS_Click(Program& program) {
+  Panel& panel = *program.windows.FrmFrameNotification;
+  EndSilence(panel, panel.chkNS);
+  panel.cmbsound.SetVisible(panel.chkNS.Value() != forms::Unchecked);
+  SaveNotificationGuarded(program);
+}
+
+void cmdDefaultNotify_Click(Program& program) {
+  Panel& panel = *program.windows.FrmFrameNotification;
+  for (const DefaultRow& row : Defaults) (panel.*row.Of).SetValue(row.State);
+}
+
+void cmbsound_Validate(Program& program, bool& keepFocus) {
+  forms::ComboBox& list = program.windows.FrmFrameNotification->cmbsound;
+  if (IsListed(list)) {
+    SaveNotificationGuarded(program);
+    return;
+  }
+  program.MsgBox("Please select a sound from the list", platform::StyleInformation);
+  list.SetText("click");
+  keepFocus = true;
+  list.SetFocus();
+}
+
+void Label35_Click(Program& program) {
+  const std::string sound = program.windows.FrmFrameNotification->cmbsound.Text();
+  PlaySoundFile(program.platform.sound, program.PathOf("\\Sound\\" + sound + ".wav"));
+}
+
+void Attach(Program& program, Panel& form) {
+  form.Load = [&program, &form] {
+    program::HostPanel(program, form);
+    SelectSomeSound(form);
+  };
+  for (const Box box : {&Panel::chkNW, &Panel::chkNPH, &Panel::chkNPHF}) {
+    (form.*box).Click = [&program, &form, box] {
+      SilenceEndingBox_Click(program, form, form.*box);
+    };
+  }
+  form.chkNS.Click = [&program] { chkNS_Click(program); };
+  form.chkNMC.Click = [&form] { EndSilence(form, form.chkNMC); };
+  form.chkNAll.Click = [&program] { chkNAll_Click(program); };
+  form.cmdDefaultNotify.Click = [&program] { cmdDefaultNotify_Click(program); };
+  form.cmbsound.Click = [&program] { SaveNotificationGuarded(program); };
+  form.cmbsound.Validate = [&program](bool& keepFocus) { cmbsound_Validate(program, keepFocus); };
+  form.Label35.Click = [&program] { Label35_Click(program); };
+}
+
+}  // namespace vantrel::blocking
