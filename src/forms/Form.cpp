@@ -126,7 +126,10 @@ void Form::Show() {
 
 void Form::ShowModal() {
   Show();
-  if (peer_ && visible_) peer_->RunModal();
+  if (peer_ && visible_) {
+    const Toolkit::Pumping pumping(toolkit_);
+    peer_->RunModal();
+  }
   toolkit_.ThrowIfEnding();
 }
 
@@ -192,7 +195,10 @@ void Form::BecomeChild() {
 }
 
 void Form::PopupMenu(Menu& menu) {
-  if (peer_) peer_->PopupMenu(menu);
+  if (peer_) {
+    const Toolkit::Pumping pumping(toolkit_);
+    peer_->PopupMenu(menu);
+  }
   toolkit_.ThrowIfEnding();
 }
 
@@ -206,6 +212,12 @@ void Form::UserResizes(int width, int height, forms::WindowState state) {
     place_.Height = height;
   }
   RaiseResize();
+}
+
+void Form::UserShows(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  if (!visible_) toolkit_.Leave(*this, true);
 }
 
 void Form::BecomesActive() {

@@ -114,6 +114,8 @@ class Form {
 
   // From the screen's side, in twips; a minimized window keeps the size it had.
   void UserResizes(int width, int height, forms::WindowState state);
+  // The window was shown or hidden from outside, by a message or by another program.
+  void UserShows(bool visible);
   // Raises Activate if another window was the active one and this one shows.
   void BecomesActive();
 

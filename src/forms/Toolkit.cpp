@@ -11,7 +11,10 @@ namespace vantrel::forms {
 Toolkit::~Toolkit() { discarded_.clear(); }
 
 void Toolkit::DoEvents() {
-  PumpMessages();
+  {
+    const Pumping pumping(*this);
+    PumpMessages();
+  }
   ThrowIfEnding();
 }
 

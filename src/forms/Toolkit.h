@@ -84,6 +84,18 @@ class Toolkit {
   friend class Control;
   friend class Form;
 
+  // A loop that lets events through: none of them is the outermost, whoever runs the loop.
+  class Pumping {
+   public:
+    explicit Pumping(Toolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.depth_; }
+    ~Pumping() { --toolkit_.depth_; }
+    Pumping(const Pumping&) = delete;
+    Pumping& operator=(const Pumping&) = delete;
+
+   private:
+    Toolkit& toolkit_;
+  };
+
   void Report(const text::RuntimeError& error) noexcept;
   void EndOfBorder() noexcept;
   void Transfer(Control* to, bool tellPeer);

@@ -1,0 +1,153 @@
+#include "forms/headless/User.h"
+
+#include <algorithm>
+
+#include "forms/UserControl.h"
+
+namespace vantrel::forms::headless {
+namespace {
+
+// The way from a menu of the bar down to the entry is open.
+bool Leads(const std::vector<Menu*>& menus, const Menu& entry) {
+  return std::any_of(menus.begin(), menus.end(), [&entry](const Menu* menu) {
+    if (!menu->Visible() || !menu->Enabled()) return false;
+    return menu == &entry || Leads(menu->Entries(), entry);
+  });
+}
+
+template <class Wanted>
+CommandButton* FindButton(const Form& form, Wanted wanted) {
+  for (Control* control : form.Controls()) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button != nullptr && wanted(*button)) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool User::CanReach(const Form& form) const {
+  if (toolkit_.Ending() || !form.Loaded() || !form.Shown()) return false;
+  const Form* outermost = &form;
+  while (outermost->Host() != nullptr) outermost = outermost->Host();
+  if (outermost->WindowState() == WindowState::Minimized) return false;
+  return toolkit_.ModalForm() == nullptr || toolkit_.ModalForm() == outermost;
+}
+
+bool User::CanReach(const Control& control) const {
+  return control.Reachable() && CanReach(control.Owner());
+}
+
+bool User::Focus(Control& control) {
+  At([&] { control.Owner().Outermost().BecomesActive(); });
+  bool moved = !control.IsTabStop();
+  if (!moved) At([&] { moved = toolkit_.UserMovesFocus(&control); });
+  // A handler on the way may have closed or covered what was aimed at.
+  return moved && CanReach(control);
+}
+
+bool User::Click(Control& control) {
+  if (!CanReach(control) || !Focus(control)) return false;
+  auto* surface = dynamic_cast<UserControl*>(&control);
+  Control& pressed = surface != nullptr && surface->Face() != nullptr ? *surface->Face() : control;
+  if (!pressed.Enabled()) return false;
+  At([&] { pressed.MouseDown(1, 0, 0, 0); });
+  At([&] { pressed.MouseUp(1, 0, 0, 0); });
+  At([&] { control.UserClick(); });
+  return true;
+}
+
+bool User::PointAt(Control& control, float x, float y) {
+  if (!CanReach(control)) return false;
+  auto* surface = dynamic_cast<UserControl*>(&control);
+  Control& under = surface != nullptr && surface->Face() != nullptr ? *surface->Face() : control;
+  At([&] { under.MouseMove(0, 0, x, y); });
+  return true;
+}
+
+bool User::Type(Control& control, const std::string& text) {
+  const auto* box = dynamic_cast<TextBox*>(&control);
+  const auto* combo = dynamic_cast<ComboBox*>(&control);
+  const bool editable = (box != nullptr && !box->ReadOnly()) ||
+                        (combo != nullptr && combo->Style() == ComboStyle::Editable);
+  if (!editable || !CanReach(control) || !Focus(control)) return false;
+  At([&] { control.AssignWindowText(text); });
+  return true;
+}
+
+bool User::Choose(ComboBox& combo, const std::string& entry) {
+  int index = 0;
+  while (index < combo.ListCount() && combo.List(index) != entry) ++index;
+  if (index == combo.ListCount() || !CanReach(combo) || !Focus(combo)) return false;
+  At([&] { combo.SetListIndex(index); });
+  return true;
+}
+
+bool User::Click(ListView& list, int row) {
+  if (row < 1 || row > list.Count() || !CanReach(list) || !Focus(list)) return false;
+  At([&] { list.UserSelects(row); });
+  return true;
+}
+
+bool User::Check(ListView& list, int row, bool checked) {
+  if (!list.CheckBoxes() || row < 1 || row > list.Count()) return false;
+  if (!CanReach(list) || !Focus(list)) return false;
+  At([&] { list.UserChecks(row, checked); });
+  return true;
+}
+
+bool User::Press(Toolbar& toolbar, int button) {
+  const auto& buttons = toolbar.Buttons();
+  if (button < 1 || button > static_cast<int>(buttons.size()) || !CanReach(toolbar)) return false;
+  if (buttons[static_cast<std::size_t>(button) - 1].IsSeparator()) return false;
+  At([&] { toolbar.Owner().BecomesActive(); });
+  At([&] { toolbar.UserPresses(button); });
+  return true;
+}
+
+bool User::Select(Menu& entry) {
+  if (!CanReach(entry.Owner()) || entry.IsSeparator()) return false;
+  if (!Leads(entry.Owner().Menus(), entry)) return false;
+  At([&] { entry.Owner().BecomesActive(); });
+  At([&] { entry.UserClick(); });
+  return true;
+}
+
+Form* User::ActiveWindow() const {
+  if (toolkit_.ModalForm() != nullptr) return toolkit_.ModalForm();
+  return toolkit_.ActiveForm() == nullptr ? nullptr : &toolkit_.ActiveForm()->Outermost();
+}
+
+bool User::Tab(bool backwards) {
+  const Form* window = ActiveWindow();
+  if (window == nullptr || !CanReach(*window)) return false;
+  Control* next = window->NextTabStop(toolkit_.Focus(), backwards);
+  bool moved = false;
+  if (next != nullptr) At([&] { moved = toolkit_.UserMovesFocus(next); });
+  return moved;
+}
+
+bool User::Enter() {
+  const Form* window = ActiveWindow();
+  if (window == nullptr) return false;
+  if (auto* focused = dynamic_cast<CommandButton*>(toolkit_.Focus())) return Click(*focused);
+  CommandButton* button =
+      FindButton(*window, [](const CommandButton& each) { return each.IsDefault(); });
+  return button != nullptr && Click(*button);
+}
+
+bool User::Escape() {
+  const Form* window = ActiveWindow();
+  if (window == nullptr) return false;
+  CommandButton* button =
+      FindButton(*window, [](const CommandButton& each) { return each.IsCancel(); });
+  return button != nullptr && Click(*button);
+}
+
+bool User::Close(Form& form) {
+  if (!CanReach(form) || form.Designed().Frame == Border::Panel) return false;
+  toolkit_.UserCloses(form);
+  return true;
+}
+
+}  // namespace vantrel::forms::headless

@@ -1,0 +1,40 @@
+// Turns the palette's colours into the screen's. Where the user has chosen high contrast or a dark
+// scheme, the house's own colours give way to those of the scheme; this is the one place for that.
+#ifndef VANTREL_FORMS_WIN32_COLORS_H_
+#define VANTREL_FORMS_WIN32_COLORS_H_
+
+#include <windows.h>
+
+#include <map>
+
+#include "forms/Palette.h"
+#include "forms/win32/Handles.h"
+
+namespace vantrel::forms::win32 {
+
+class Colors {
+ public:
+  Colors() { Refresh(); }
+
+  // Looks at the user's scheme anew.
+  void Refresh();
+  // Whether the scheme's colours stand for the house's.
+  bool Contrast() const { return contrast_; }
+
+  COLORREF Of(Color color) const;
+  // The colour of text on a ground: as wanted, or what of the scheme can be read there.
+  COLORREF TextOn(Color text, Color ground) const;
+  // A brush that lives until the next Refresh.
+  HBRUSH BrushOf(Color color) const;
+
+ private:
+  bool contrast_ = false;
+  mutable std::map<COLORREF, Brush> brushes_;
+};
+
+// The contrast of two colours, from 1 to 21.
+double ContrastBetween(COLORREF one, COLORREF other);
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_COLORS_H_

@@ -1,0 +1,70 @@
+// The window of one control: carries changes of the model to the screen, and what the user or a
+// foreign message does to the window back to the model. The kinds derive from it.
+#ifndef VANTREL_FORMS_WIN32_CONTROLWINDOW_H_
+#define VANTREL_FORMS_WIN32_CONTROLWINDOW_H_
+
+#include <memory>
+#include <string>
+
+#include "forms/Control.h"
+#include "forms/win32/Window.h"
+
+namespace vantrel::forms::win32 {
+
+class ControlWindow : public Window {
+ public:
+  ControlWindow(WindowSystem& system, Control& control) : Window(system), control_(control) {}
+
+  Control& Model() const { return control_; }
+
+  // Makes the window under its container's, at its place.
+  void CreateUnder(HWND parent, int identifier);
+  // Shows what has changed in the model.
+  virtual void Changed(Aspect aspect);
+  void TakeFocus() const;
+
+  void PaintSurface(HDC context, const RECT& area) override;
+  Color GroundColor() const override;
+  HBRUSH OnColor(HDC context) override;
+
+ protected:
+  // Class, style and text of the kind.
+  virtual WindowShape Shape() const = 0;
+  // After the window is made.
+  virtual void Prepare() {}
+  virtual HFONT TextFont() const;
+  // The pointer shown over it, in the models' numbers.
+  virtual int Pointer() const { return control_.MousePointer(); }
+  // Whose mouse events are raised here.
+  virtual Control& MouseTarget() const { return control_; }
+  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
+
+  // Runs the model's reaction to something from outside.
+  void Raise(const std::function<void()>& event) { System().Raise(event); }
+  std::string ShownText() const;
+  // Sends a message that the window handles as the control's own work, not as one from outside.
+  LRESULT Tell(UINT message, WPARAM first = 0, LPARAM second = 0);
+  bool IsTelling() const { return telling_ > 0; }
+  // The ground for text that is typed or listed.
+  Color InputGround() const;
+  void DrawHouseBorder();
+  bool HasMouse(LPARAM position) const;
+
+ private:
+  RECT Area() const;
+  void ShowText();
+  void ShowVisible();
+  void GiveFocusAway();
+  void RaiseMouse(UINT message, WPARAM keys, LPARAM position);
+  bool TakesFocusFromModel();
+
+  Control& control_;
+  int telling_ = 0;
+};
+
+// What the model holds of its window.
+std::unique_ptr<ControlPeer> MakePeer(std::shared_ptr<ControlWindow> window);
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_CONTROLWINDOW_H_

@@ -1,0 +1,373 @@
+#include "forms/win32/FormWindow.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/Controls.h"
+#include "forms/UserControl.h"
+#include "forms/win32/FormLayout.h"
+#include "forms/win32/Painting.h"
+#include "forms/win32/TimerWindow.h"
+#include "forms/win32/WindowMaker.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+class Peer final : public FormPeer {
+ public:
+  explicit Peer(std::shared_ptr<FormWindow> window) : window_(std::move(window)) {}
+  ~Peer() override { window_->Close(); }
+
+  void Changed(Aspect aspect) override {
+    const std::shared_ptr<FormWindow> window = window_;
+    if (window->Alive()) window->Changed(aspect);
+  }
+  void SetFocus() override { ::SetFocus(window_->Handle()); }
+  forms::Handle WindowHandle() const override {
+    return reinterpret_cast<forms::Handle>(window_->Handle());
+  }
+  void BecomeChild() override { window_->BecomeChild(); }
+  void RunModal() override {
+    const std::shared_ptr<FormWindow> window = window_;
+    window->RunModal();
+  }
+  void PopupMenu(Menu& menu) override {
+    const std::shared_ptr<FormWindow> window = window_;
+    window->PopupMenu(menu);
+  }
+  forms::Handle IconHandle() const override {
+    return reinterpret_cast<forms::Handle>(window_->Icon());
+  }
+  void Activate() override { window_->Activate(); }
+
+ private:
+  std::shared_ptr<FormWindow> window_;
+};
+
+}  // namespace
+
+std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form) {
+  auto window = std::make_shared<FormWindow>(system, form);
+  window->CreateHidden();
+  window->MakeControls();
+  return std::make_unique<Peer>(std::move(window));
+}
+
+MouseState MouseStateOf(WPARAM keys, LPARAM position, double twipsPerPixel) {
+  MouseState mouse;
+  if ((keys & MK_LBUTTON) != 0) mouse.Button |= 1;
+  if ((keys & MK_RBUTTON) != 0) mouse.Button |= 2;
+  if ((keys & MK_MBUTTON) != 0) mouse.Button |= 4;
+  if ((keys & MK_SHIFT) != 0) mouse.Shift |= 1;
+  if ((keys & MK_CONTROL) != 0) mouse.Shift |= 2;
+  if (GetKeyState(VK_MENU) < 0) mouse.Shift |= 4;
+  mouse.X = static_cast<float>(static_cast<short>(LOWORD(position)) * twipsPerPixel);
+  mouse.Y = static_cast<float>(static_cast<short>(HIWORD(position)) * twipsPerPixel);
+  return mouse;
+}
+
+HWND FormWindow::DialogOwner() const {
+  for (const Form* form : System().LoadedForms()) {
+    if (form->Designed().Frame == Border::Sizable) return reinterpret_cast<HWND>(form->hWnd());
+  }
+  return nullptr;
+}
+
+WindowShape FormWindow::Shape() const {
+  WindowShape shape;
+  shape.Text = form_.Caption();
+  shape.Style = WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
+  shape.ExtendedStyle = WS_EX_CONTROLPARENT;
+  shape.Area = System().Pixels.Rectangle(
+      {form_.Left(), form_.Top(), form_.Width(), form_.Height()});
+  if (IsMain()) {
+    shape.Style |= WS_OVERLAPPEDWINDOW;
+  } else if (IsPanel()) {
+    // Hidden until it is put into another window; not on the taskbar until then.
+    shape.Style |= WS_POPUP;
+    shape.ExtendedStyle |= WS_EX_TOOLWINDOW;
+  } else {
+    shape.Style |= WS_POPUP | WS_CAPTION | WS_SYSMENU;
+    shape.ExtendedStyle |= WS_EX_DLGMODALFRAME;
+    shape.Parent = DialogOwner();
+  }
+  return shape;
+}
+
+void FormWindow::CreateHidden() {
+  Create(Shape(), form_.Name());
+  tips_.SetOwner(Handle());
+  if (!IsPanel()) menus_.PutInto(Handle());
+}
+
+void FormWindow::MakeControls() {
+  int identifier = 0;
+  for (Control* control : form_.Controls()) MakeControlWindow(System(), *control, Handle(), ++identifier);
+  SinkContainers(form_);
+  LayOut();
+}
+
+void FormWindow::PaintSurface(HDC context, const RECT& area) {
+  FillArea(context, area, System().Palette.Of(form_.BackColor()));
+}
+
+void FormWindow::Changed(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Text:
+      SetWindowTextA(Handle(), form_.Caption().c_str());
+      return;
+    case Aspect::Visible:
+      return ShowVisible();
+    case Aspect::Place:
+      return ShowPlace();
+    case Aspect::State:
+      return ShowState();
+    default:
+      return;
+  }
+}
+
+int FormWindow::ShowCommand() const {
+  if (!IsMain()) return SW_SHOWNA;
+  switch (form_.WindowState()) {
+    case WindowState::Minimized:
+      return SW_SHOWMINIMIZED;
+    case WindowState::Maximized:
+      return SW_SHOWMAXIMIZED;
+    default:
+      return SW_SHOWNORMAL;
+  }
+}
+
+void FormWindow::ShowVisible() {
+  if (!form_.Visible()) {
+    EndModal();
+    LeaveFocus();
+    ShowWindow(Handle(), SW_HIDE);
+    return;
+  }
+  if (!std::exchange(placed_, true)) Center();
+  ShowWindow(Handle(), ShowCommand());
+  PaintAtOnce();
+}
+
+// All of it before the next message, so that no half-painted window is ever seen.
+void FormWindow::PaintAtOnce() const {
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+// In the middle of the main window, or of the screen's work area.
+void FormWindow::Center() {
+  if (IsPanel() || form_.Left() != -1) return;
+  RECT around{};
+  const HWND owner = GetWindow(Handle(), GW_OWNER);
+  if (owner == nullptr || !IsWindowVisible(owner) || IsIconic(owner) ||
+      !GetWindowRect(owner, &around)) {
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &around, 0);
+  }
+  RECT own{};
+  GetWindowRect(Handle(), &own);
+  const int left = around.left + (WidthOf(around) - WidthOf(own)) / 2;
+  const int top = around.top + (HeightOf(around) - HeightOf(own)) / 2;
+  SetWindowPos(Handle(), nullptr, std::max(left, 0), std::max(top, 0), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::ShowPlace() {
+  const RECT area = System().Pixels.Rectangle({0, 0, form_.Width(), form_.Height()});
+  RECT shown{};
+  GetWindowRect(Handle(), &shown);
+  if (WidthOf(shown) == area.right && HeightOf(shown) == area.bottom) return;
+  SetWindowPos(Handle(), nullptr, 0, 0, area.right, area.bottom,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::ShowState() {
+  // A hidden window takes its state when it is shown.
+  if (form_.Visible() && IsMain()) ShowWindow(Handle(), ShowCommand());
+}
+
+void FormWindow::BecomeChild() {
+  const LONG_PTR style = GetWindowLongPtrA(Handle(), GWL_STYLE);
+  SetWindowLongPtrA(Handle(), GWL_STYLE,
+                    (style & ~static_cast<LONG_PTR>(WS_POPUP)) | WS_CHILD);
+  SetWindowLongPtrA(Handle(), GWL_EXSTYLE, WS_EX_CONTROLPARENT);
+}
+
+void FormWindow::Activate() {
+  if (IsPanel()) return;
+  SetForegroundWindow(Handle());
+}
+
+void FormWindow::PopupMenu(Menu& menu) {
+  const int chosen = MenuBar::PopUp(GetAncestor(Handle(), GA_ROOT), menu);
+  System().ThrowIfEnding();
+  Form& owner = menu.Owner();
+  System().Raise([&] {
+    if (Menu* entry = chosen != 0 ? owner.FindMenu(chosen) : nullptr) entry->UserClick();
+  });
+  System().ThrowIfEnding();
+}
+
+void FormWindow::RunModal() {
+  modal_ = true;
+  for (const Form* other : System().LoadedForms()) {
+    const auto window = reinterpret_cast<HWND>(other->hWnd());
+    if (other == &form_ || GetAncestor(window, GA_ROOT) != window || !IsWindowEnabled(window)) {
+      continue;
+    }
+    disabled_.push_back(window);
+    EnableWindow(window, FALSE);
+  }
+  System().RunWhile([this] { return modal_ && Alive(); });
+  EndModal();
+  System().ThrowIfEnding();
+}
+
+void FormWindow::Close() {
+  EndModal();
+  LeaveFocus();
+  Destroy();
+}
+
+// Before the dialog goes, since Windows would else activate another program's window.
+void FormWindow::EndModal() {
+  modal_ = false;
+  for (const HWND window : std::exchange(disabled_, {})) EnableWindow(window, TRUE);
+}
+
+void FormWindow::LayOut() {
+  if (IsMain() && Alive()) LayOutMain(form_, Handle(), System().Pixels);
+}
+
+void FormWindow::Resized(WPARAM kind) {
+  if (IsPanel()) return;
+  if (kind != SIZE_MINIMIZED) LayOut();
+  const WindowState state = kind == SIZE_MINIMIZED   ? WindowState::Minimized
+                            : kind == SIZE_MAXIMIZED ? WindowState::Maximized
+                                                     : WindowState::Normal;
+  RECT area{};
+  GetWindowRect(Handle(), &area);
+  const Scale& scale = System().Pixels;
+  // A size that rounds to the same pixels is the same size.
+  const auto twips = [&](int pixels, int known) {
+    return scale.Pixels(known) == pixels ? known : scale.Twips(pixels);
+  };
+  const int width = twips(WidthOf(area), form_.Width());
+  const int height = twips(HeightOf(area), form_.Height());
+  System().Raise([&] { form_.UserResizes(width, height, state); });
+}
+
+// What was focused when the window was left, or its first stop.
+void FormWindow::RestoreFocus() {
+  if (lastFocus_ != nullptr && IsChild(Handle(), lastFocus_) && IsWindowVisible(lastFocus_) &&
+      IsWindowEnabled(lastFocus_)) {
+    ::SetFocus(lastFocus_);
+    return;
+  }
+  if (const Control* first = NextStop(nullptr, false)) {
+    ::SetFocus(reinterpret_cast<HWND>(first->WindowHandle()));
+  }
+}
+
+// A panel that goes with the focus in it hands it to the window around it.
+void FormWindow::LeaveFocus() {
+  if (!IsPanel() || !IsChild(Handle(), GetFocus())) return;
+  const HWND root = GetAncestor(Handle(), GA_ROOT);
+  const auto around = System().FindForm(root);
+  const Control* next = around != nullptr ? around->NextStop(nullptr, false) : nullptr;
+  ::SetFocus(next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle()) : root);
+}
+
+void FormWindow::SchemeChanged(UINT message, WPARAM first, LPARAM second) {
+  System().RefreshColors();
+  const auto pass = [](HWND child, LPARAM told) -> BOOL {
+    const auto& sent = *reinterpret_cast<const MSG*>(told);
+    if (sent.message == WM_SYSCOLORCHANGE) SendMessageA(child, sent.message, 0, 0);
+    return TRUE;
+  };
+  MSG told{};
+  told.message = message;
+  told.wParam = first;
+  told.lParam = second;
+  EnumChildWindows(Handle(), pass, reinterpret_cast<LPARAM>(&told));
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+LRESULT FormWindow::Closing(UINT message, WPARAM first) {
+  if (message == WM_QUERYENDSESSION) return TRUE;
+  if (message == WM_CLOSE) {
+    System().Raise([this] { form_.Unload(UnloadByCloseBox); });
+  } else if (first != 0 && IsMain()) {
+    System().Raise([this] { form_.Unload(UnloadBySystem); });
+  }
+  return 0;
+}
+
+LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  if (message == System().TaskbarCreatedMessage && IsMain()) {
+    System().Raise([this] { System().TaskbarCreated(); });
+    return 0;
+  }
+  switch (message) {
+    case WM_CLOSE:
+    case WM_QUERYENDSESSION:
+    case WM_ENDSESSION:
+      return Closing(message, first);
+    case WM_COMMAND:
+      if (second == 0) {
+        const int identifier = LOWORD(first);
+        System().Raise([&] {
+          if (Menu* entry = form_.FindMenu(identifier)) entry->UserClick();
+        });
+        return 0;
+      }
+      break;
+    case WM_INITMENUPOPUP:
+      menus_.Opens(reinterpret_cast<HMENU>(first));
+      break;
+    case WM_SIZE:
+      Resized(first);
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(first) == WA_INACTIVE) {
+        if (IsChild(Handle(), GetFocus())) lastFocus_ = GetFocus();
+      } else {
+        System().Raise([this] { form_.BecomesActive(); });
+      }
+      break;
+    case WM_SETFOCUS:
+      RestoreFocus();
+      return 0;
+    case WM_MOUSEMOVE: {
+      const MouseState mouse = MouseStateOf(first, second, System().TwipsPerPixelX());
+      System().Raise([&] { form_.MouseMove(mouse.Button, mouse.Shift, mouse.X, mouse.Y); });
+      return 0;
+    }
+    case WM_SETCURSOR:
+      if (LOWORD(second) == HTCLIENT && System().ShowPointer(form_.MousePointer())) return TRUE;
+      break;
+    case WM_TIMER:
+      TimerFires(System(), form_, static_cast<int>(first));
+      return 0;
+    case WM_NEXTDLGCTL: {
+      const Control* next = NextStop(System().Focus(), first != 0);
+      ::SetFocus(LOWORD(second) != 0 ? reinterpret_cast<HWND>(first)
+                 : next != nullptr   ? reinterpret_cast<HWND>(next->WindowHandle())
+                                     : Handle());
+      return 0;
+    }
+    case DM_GETDEFID:
+      return DefaultButtonAnswer(form_);
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      SchemeChanged(message, first, second);
+      break;
+    default:
+      break;
+  }
+  return Alive() ? Window::OnMessage(message, first, second) : 0;
+}
+
+}  // namespace vantrel::forms::win32

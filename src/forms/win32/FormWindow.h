@@ -1,0 +1,90 @@
+// The window of a form: a main window, a dialog or a panel, with its menu bar, its layout on
+// resizing, its keyboard focus and its ways to close.
+#ifndef VANTREL_FORMS_WIN32_FORMWINDOW_H_
+#define VANTREL_FORMS_WIN32_FORMWINDOW_H_
+
+#include <memory>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/win32/MenuBar.h"
+#include "forms/win32/ToolTips.h"
+#include "forms/win32/Window.h"
+
+namespace vantrel::forms::win32 {
+
+class FormWindow : public Window {
+ public:
+  FormWindow(WindowSystem& system, Form& form) : Window(system), form_(form), menus_(form) {}
+
+  Form& Model() const { return form_; }
+  ToolTips& Tips() { return tips_; }
+
+  void CreateHidden();
+  // Ends the window, and before it the dialog that it may be running.
+  void Close();
+  void MakeControls();
+  void Changed(Aspect aspect);
+  void BecomeChild();
+  void RunModal();
+  void PopupMenu(Menu& menu);
+  void Activate();
+  HICON Icon() const { return System().Images.ProgramIcon(true); }
+
+  // The controls that Tab visits now: the model's order without what lies under another panel
+  // and without the options of a group that are not its selected one.
+  std::vector<Control*> TabStops() const;
+  // The stop behind (or before) a control, round about; nullptr if there is none.
+  Control* NextStop(const Control* from, bool backwards) const;
+  // The panel that lies on top, nullptr for none.
+  std::shared_ptr<FormWindow> TopPanel() const;
+
+  void PaintSurface(HDC context, const RECT& area) override;
+  Color GroundColor() const override { return form_.BackColor(); }
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
+
+ private:
+  bool IsPanel() const { return form_.Designed().Frame == Border::Panel; }
+  bool IsMain() const { return form_.Designed().Frame == Border::Sizable; }
+  WindowShape Shape() const;
+  HWND DialogOwner() const;
+  void ShowVisible();
+  void ShowPlace();
+  void ShowState();
+  int ShowCommand() const;
+  void Center();
+  void PaintAtOnce() const;
+  void Resized(WPARAM kind);
+  void LayOut();
+  void LeaveFocus();
+  void RestoreFocus();
+  void EndModal();
+  void SchemeChanged(UINT message, WPARAM first, LPARAM second);
+  bool IsCovered(const Control& control, const FormWindow& panel) const;
+  LRESULT Closing(UINT message, WPARAM first);
+
+  Form& form_;
+  MenuBar menus_;
+  ToolTips tips_;
+  HWND lastFocus_ = nullptr;
+  std::vector<HWND> disabled_;  // by a modal dialog, while it runs
+  bool modal_ = false;
+  bool placed_ = false;
+};
+
+std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form);
+
+// The mouse as the models are told of it, in twips.
+struct MouseState {
+  int Button = 0;
+  int Shift = 0;
+  float X = 0;
+  float Y = 0;
+};
+MouseState MouseStateOf(WPARAM keys, LPARAM position, double twipsPerPixel);
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_FORMWINDOW_H_

@@ -1,0 +1,100 @@
+#include "forms/win32/Painting.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+TRIVERTEX Corner(LONG x, LONG y, COLORREF color) {
+  const auto part = [](BYTE value) { return static_cast<COLOR16>(value << 8); };
+  return {x, y, part(GetRValue(color)), part(GetGValue(color)), part(GetBValue(color)), 0};
+}
+
+}  // namespace
+
+PaintBuffer::PaintBuffer(HWND window) : window_(window), screen_(BeginPaint(window, &paint_)) {
+  const RECT& area = paint_.rcPaint;
+  const int width = area.right > area.left ? area.right - area.left : 1;
+  const int height = area.bottom > area.top ? area.bottom - area.top : 1;
+  memory_ = MemoryContext(CreateCompatibleDC(screen_));
+  bitmap_ = Bitmap(CreateCompatibleBitmap(screen_, width, height));
+  before_ = SelectObject(memory_.Get(), bitmap_.Get());
+  SetWindowOrgEx(memory_.Get(), area.left, area.top, nullptr);
+}
+
+PaintBuffer::~PaintBuffer() {
+  const RECT& area = paint_.rcPaint;
+  BitBlt(screen_, area.left, area.top, area.right - area.left, area.bottom - area.top,
+         memory_.Get(), area.left, area.top, SRCCOPY);
+  SelectObject(memory_.Get(), before_);
+  EndPaint(window_, &paint_);
+}
+
+RECT ClientArea(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  return area;
+}
+
+void FillGradient(HDC context, const RECT& area, COLORREF from, COLORREF to,
+                  Direction direction) {
+  if (from == to) {
+    FillArea(context, area, from);
+    return;
+  }
+  TRIVERTEX corners[] = {Corner(area.left, area.top, from), Corner(area.right, area.bottom, to)};
+  GRADIENT_RECT whole{0, 1};
+  GradientFill(context, corners, 2, &whole, 1,
+               direction == Direction::Across ? GRADIENT_FILL_RECT_H : GRADIENT_FILL_RECT_V);
+}
+
+void FillArea(HDC context, const RECT& area, COLORREF color) {
+  const Brush brush(CreateSolidBrush(color));
+  FillRect(context, &area, brush.Get());
+}
+
+void RoundedFrame(HDC context, const RECT& area, int radius, COLORREF line, COLORREF fill) {
+  const Pen pen(CreatePen(PS_SOLID, 1, line));
+  const Brush brush(fill == CLR_NONE ? nullptr : CreateSolidBrush(fill));
+  const Selection withPen(context, pen.Get());
+  const Selection withBrush(context, brush ? static_cast<HGDIOBJ>(brush.Get())
+                                           : GetStockObject(NULL_BRUSH));
+  RoundRect(context, area.left, area.top, area.right, area.bottom, 2 * radius, 2 * radius);
+}
+
+void DrawLine(HDC context, POINT from, POINT to, COLORREF color) {
+  const Pen pen(CreatePen(PS_SOLID, 1, color));
+  const Selection withPen(context, pen.Get());
+  MoveToEx(context, from.x, from.y, nullptr);
+  LineTo(context, to.x, to.y);
+}
+
+void DrawTextIn(HDC context, const std::string& text, RECT area, HFONT font, COLORREF color,
+                UINT flags) {
+  const Selection withFont(context, font);
+  SetBkMode(context, TRANSPARENT);
+  SetTextColor(context, color);
+  DrawTextA(context, text.c_str(), static_cast<int>(text.size()), &area, flags);
+}
+
+SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags) {
+  const WindowContext screen(nullptr);
+  const Selection withFont(screen.Get(), font);
+  RECT area{0, 0, width, 0};
+  // An empty text is measured as a line of its font.
+  const std::string& measured = text.empty() ? std::string(" ") : text;
+  DrawTextA(screen.Get(), measured.c_str(), static_cast<int>(measured.size()), &area,
+            flags | DT_CALCRECT | (width != 0 ? DT_WORDBREAK : 0U));
+  return {text.empty() ? 0 : area.right, area.bottom};
+}
+
+UINT AlignFlags(Align alignment) {
+  switch (alignment) {
+    case Align::Right:
+      return DT_RIGHT;
+    case Align::Center:
+      return DT_CENTER;
+    default:
+      return DT_LEFT;
+  }
+}
+
+}  // namespace vantrel::forms::win32

@@ -1,0 +1,53 @@
+// The strokes that own-drawn windows are made of, and the buffer that keeps them from flickering.
+#ifndef VANTREL_FORMS_WIN32_PAINTING_H_
+#define VANTREL_FORMS_WIN32_PAINTING_H_
+
+#include <windows.h>
+
+#include <string>
+
+#include "forms/Design.h"
+#include "forms/win32/Handles.h"
+
+namespace vantrel::forms::win32 {
+
+// One WM_PAINT: what is drawn into Context appears on the window at once, when this goes.
+class PaintBuffer {
+ public:
+  explicit PaintBuffer(HWND window);
+  PaintBuffer(const PaintBuffer&) = delete;
+  PaintBuffer& operator=(const PaintBuffer&) = delete;
+  ~PaintBuffer();
+
+  HDC Context() const { return memory_.Get(); }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_{};
+  HDC screen_;
+  MemoryContext memory_;
+  Bitmap bitmap_;
+  HGDIOBJ before_ = nullptr;
+};
+
+// The inside of a window, from 0, 0.
+RECT ClientArea(HWND window);
+
+enum class Direction { Across, Down };
+void FillGradient(HDC context, const RECT& area, COLORREF from, COLORREF to, Direction direction);
+void FillArea(HDC context, const RECT& area, COLORREF color);
+// A frame with rounded corners; what is inside is filled, unless fill is CLR_NONE.
+void RoundedFrame(HDC context, const RECT& area, int radius, COLORREF line, COLORREF fill);
+void DrawLine(HDC context, POINT from, POINT to, COLORREF color);
+
+// DrawText in a font and colour, with its flags.
+void DrawTextIn(HDC context, const std::string& text, RECT area, HFONT font, COLORREF color,
+                UINT flags);
+// The size of a text, broken into lines if width is not 0.
+SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags);
+
+UINT AlignFlags(Align alignment);
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_PAINTING_H_

@@ -1,0 +1,43 @@
+#include "forms/win32/ToolTips.h"
+
+#include <commctrl.h>
+
+namespace vantrel::forms::win32 {
+namespace {
+
+constexpr int WidestTip = 400;  // pixels; longer texts take several lines
+
+}  // namespace
+
+ToolTips::~ToolTips() {
+  if (tips_ != nullptr && IsWindow(tips_)) DestroyWindow(tips_);
+}
+
+void ToolTips::MakeWindow() {
+  if (tips_ != nullptr) return;
+  tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0,
+                          0, 0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
+  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, WidestTip);
+}
+
+void ToolTips::Set(HWND control, const std::string& text) {
+  const bool known = controls_.count(control) != 0;
+  if (!known && text.empty()) return;
+  MakeWindow();
+  TTTOOLINFOA tool{};
+  // The first form, which every version of the common controls takes.
+  tool.cbSize = TTTOOLINFOA_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = owner_;
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  tool.lpszText = const_cast<char*>(text.c_str());
+  const UINT message = text.empty() ? TTM_DELTOOLA : known ? TTM_UPDATETIPTEXTA : TTM_ADDTOOLA;
+  SendMessageA(tips_, message, 0, reinterpret_cast<LPARAM>(&tool));
+  if (text.empty()) {
+    controls_.erase(control);
+  } else {
+    controls_.insert(control);
+  }
+}
+
+}  // namespace vantrel::forms::win32

@@ -1,0 +1,139 @@
+#include "forms/win32/UserControlWindow.h"
+
+#include "forms/Controls.h"
+#include "forms/win32/FormWindow.h"
+#include "forms/win32/LabelWindow.h"
+#include "forms/win32/Painting.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+class FacePeer final : public ControlPeer {
+ public:
+  FacePeer(WindowSystem& system, Label& face) : system_(system), face_(face) {}
+
+  void Changed(Aspect aspect) override {
+    if (const auto window = Surface()) window->FaceChanged(face_, aspect);
+  }
+  void SetFocus() override {
+    if (const auto window = Surface()) window->TakeFocus();
+  }
+  forms::Handle WindowHandle() const override { return face_.Container()->WindowHandle(); }
+
+ private:
+  std::shared_ptr<UserControlWindow> Surface() const {
+    return std::dynamic_pointer_cast<UserControlWindow>(
+        system_.Find(reinterpret_cast<HWND>(WindowHandle())));
+  }
+
+  WindowSystem& system_;
+  Label& face_;
+};
+
+}  // namespace
+
+bool IsFace(const Label& label) {
+  return dynamic_cast<const UserControl*>(label.Container()) != nullptr;
+}
+
+std::unique_ptr<ControlPeer> MakeFacePeer(WindowSystem& system, Label& face) {
+  auto peer = std::make_unique<FacePeer>(system, face);
+  FitToText(face, system.Typefaces.Of(face.TextFont()), system.Pixels);
+  return peer;
+}
+
+Control& UserControlWindow::Face() const {
+  Control* face = surface_.Face();
+  return face != nullptr ? *face : surface_;
+}
+
+WindowShape UserControlWindow::Shape() const {
+  WindowShape shape;
+  shape.Text = Face().WindowText();
+  return shape;
+}
+
+int UserControlWindow::Pointer() const { return Face().MousePointer(); }
+
+void UserControlWindow::Changed(Aspect aspect) {
+  // The text that shows is the face's.
+  if (aspect != Aspect::Text) ControlWindow::Changed(aspect);
+}
+
+void UserControlWindow::FaceChanged(Label& face, Aspect aspect) {
+  if (!Alive()) return;
+  if (aspect == Aspect::Text) {
+    Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(face.Caption().c_str()));
+  } else if (aspect == Aspect::ToolTip) {
+    if (const auto form = System().FormAround(Handle())) {
+      form->Tips().Set(Handle(), face.ToolTipText());
+    }
+  }
+  Invalidate();
+  if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels);
+}
+
+void UserControlWindow::PaintSurface(HDC context, const RECT& area) {
+  const Control& face = Face();
+  const Colors& colors = System().Palette;
+  const Color ground = face.BackColor();
+  if (ground != palette::PanelBack) {
+    FillArea(context, area, colors.Of(ground));
+  } else {
+    PaintBehind(context);
+  }
+  DrawTextIn(context, face.WindowText(), area, TextFont(),
+             face.Enabled() && surface_.Enabled() ? colors.TextOn(face.ForeColor(), ground)
+                                                  : colors.TextOn(palette::GrayText, ground),
+             DT_SINGLELINE | DT_EXPANDTABS | AlignFlags(face.Alignment()));
+  if (GetFocus() == Handle()) DrawFocusRect(context, &area);
+}
+
+void UserControlWindow::Press(bool down, LPARAM position) {
+  if (down) {
+    pressed_ = true;
+    ::SetFocus(Handle());
+    if (Alive()) SetCapture(Handle());
+    return;
+  }
+  if (!pressed_) return;
+  pressed_ = false;
+  const bool inside = HasMouse(position);
+  ReleaseCapture();
+  if (inside && Alive()) Raise([this] { Face().UserClick(); });
+}
+
+LRESULT UserControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONUP: {
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      if (Alive()) Press(message != WM_LBUTTONUP, second);
+      return answer;
+    }
+    case WM_KEYDOWN:
+      if (first == VK_SPACE || first == VK_RETURN) {
+        Raise([this] { surface_.KeyPressed(); });
+        return 0;
+      }
+      break;
+    case BM_CLICK:
+      Raise([this] { Face().UserClick(); });
+      return 0;
+    case WM_SIZE:
+      Raise([this] { surface_.Resized(); });
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      Invalidate();
+      break;
+    case WM_GETFONT:
+      return reinterpret_cast<LRESULT>(TextFont());
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, first, second);
+}
+
+}  // namespace vantrel::forms::win32

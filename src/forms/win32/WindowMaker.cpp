@@ -1,0 +1,87 @@
+#include "forms/win32/WindowMaker.h"
+
+#include <memory>
+
+#include "forms/ControlVisitor.h"
+#include "forms/win32/ButtonWindows.h"
+#include "forms/win32/ChartWindow.h"
+#include "forms/win32/ComboBoxWindow.h"
+#include "forms/win32/FileListWindow.h"
+#include "forms/win32/FrameWindows.h"
+#include "forms/win32/ImageWindow.h"
+#include "forms/win32/LabelWindow.h"
+#include "forms/win32/ListViewWindow.h"
+#include "forms/win32/ProgressWindow.h"
+#include "forms/win32/SpokenName.h"
+#include "forms/win32/StatusBarWindow.h"
+#include "forms/win32/TextBoxWindow.h"
+#include "forms/win32/TimerWindow.h"
+#include "forms/win32/ToolbarWindow.h"
+#include "forms/win32/UserControlWindow.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+class Maker final : public ControlVisitor {
+ public:
+  Maker(WindowSystem& system, HWND parent, int identifier)
+      : system_(system), parent_(parent), identifier_(identifier) {}
+
+  void Visit(Chart& control) override { Make<ChartWindow>(control); }
+  void Visit(CheckBox& control) override { Make<CheckBoxWindow>(control); }
+  void Visit(ComboBox& control) override { MakeNamed<ComboBoxWindow>(control); }
+  void Visit(CommandButton& control) override { Make<CommandButtonWindow>(control); }
+  void Visit(FileListBox& control) override { MakeNamed<FileListWindow>(control); }
+  void Visit(Frame& control) override { Make<FrameWindow>(control); }
+  void Visit(Image& control) override { Make<ImageWindow>(control); }
+  void Visit(Label& control) override {
+    if (IsFace(control)) {
+      control.AttachPeer(MakeFacePeer(system_, control));
+    } else {
+      Make<LabelWindow>(control);
+    }
+  }
+  void Visit(ListView& control) override { MakeNamed<ListViewWindow>(control); }
+  void Visit(OptionButton& control) override { Make<OptionButtonWindow>(control); }
+  void Visit(PictureBox& control) override { Make<PictureBoxWindow>(control); }
+  void Visit(ProgressBar& control) override { MakeNamed<ProgressWindow>(control); }
+  void Visit(StatusBar& control) override { Make<StatusBarWindow>(control); }
+  void Visit(TextBox& control) override { MakeNamed<TextBoxWindow>(control); }
+  void Visit(Timer& control) override {
+    control.AttachPeer(MakeTimerPeer(control, system_.FormAround(parent_)->Handle(), identifier_));
+  }
+  void Visit(Toolbar& control) override { Make<ToolbarWindow>(control); }
+  void Visit(UserControl& control) override { Make<UserControlWindow>(control); }
+
+ private:
+  template <class Kind, class Model>
+  void Make(Model& control) {
+    auto window = std::make_shared<Kind>(system_, control);
+    window->CreateUnder(parent_, identifier_);
+    control.AttachPeer(MakePeer(window));
+    window->Changed(Aspect::Font);
+  }
+
+  // One that has no text of its own to be known by.
+  template <class Kind, class Model>
+  void MakeNamed(Model& control) {
+    MakeSpokenName(control, parent_);
+    Make<Kind>(control);
+  }
+
+  WindowSystem& system_;
+  HWND parent_;
+  int identifier_;
+};
+
+}  // namespace
+
+void MakeControlWindow(WindowSystem& system, Control& control, HWND form, int identifier) {
+  const Control* container = control.Container();
+  const HWND parent =
+      container != nullptr ? reinterpret_cast<HWND>(container->WindowHandle()) : form;
+  Maker maker(system, parent, identifier);
+  control.Accept(maker);
+}
+
+}  // namespace vantrel::forms::win32

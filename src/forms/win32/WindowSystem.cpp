@@ -1,0 +1,127 @@
+#include "forms/win32/WindowSystem.h"
+
+#include <commctrl.h>
+
+#include "forms/win32/FormWindow.h"
+#include "forms/win32/Keyboard.h"
+#include "forms/win32/Window.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+// The process paints at the screen's own resolution; Windows XP knows no other way.
+int DeclareDpiAware() {
+  using Declare = BOOL(WINAPI*)();
+  const HMODULE user = GetModuleHandleA("user32.dll");
+  const auto declare = reinterpret_cast<Declare>(
+      reinterpret_cast<void*>(GetProcAddress(user, "SetProcessDPIAware")));
+  if (declare != nullptr) declare();
+  return Scale::OfScreen().Dpi();
+}
+
+void LoadCommonControls() {
+  INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+  // Before version 6 there are no standard classes to ask for.
+  if (!InitCommonControlsEx(&wanted)) {
+    wanted.dwICC = ICC_WIN95_CLASSES;
+    InitCommonControlsEx(&wanted);
+  }
+}
+
+}  // namespace
+
+WindowSystem::WindowSystem(win32::Pictures pictures)
+    : Pixels(DeclareDpiAware()),
+      Typefaces(Pixels),
+      Images(std::move(pictures), Pixels),
+      TaskbarCreatedMessage(RegisterWindowMessageA("TaskbarCreated")) {
+  LoadCommonControls();
+  Window::RegisterClass(Images.ProgramIcon(true), Images.ProgramIcon(false));
+}
+
+std::unique_ptr<FormPeer> WindowSystem::MakeWindow(Form& form) { return MakeFormWindow(*this, form); }
+
+void WindowSystem::RunMessageLoop() {
+  RunWhile([] { return true; });
+}
+
+void WindowSystem::RunWhile(const std::function<bool()>& goesOn) {
+  MSG message;
+  while (!Ending() && goesOn()) {
+    const BOOL received = GetMessageA(&message, nullptr, 0, 0);
+    if (received <= 0) {
+      // Told to quit: the outer loops are to end as well.
+      if (received == 0) PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    Dispatch(message);
+  }
+}
+
+void WindowSystem::PumpMessages() {
+  MSG message;
+  while (!Ending() && PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    Dispatch(message);
+  }
+}
+
+void WindowSystem::Dispatch(MSG& message) {
+  if (HandleKey(*this, message)) return;
+  TranslateMessage(&message);
+  DispatchMessageA(&message);
+}
+
+void WindowSystem::Raise(const std::function<void()>& event) noexcept {
+  AtBorder(event);
+  if (!Ending() || quitPosted_) return;
+  // Boxes and menus of Windows' own run loops that only this ends.
+  quitPosted_ = true;
+  PostQuitMessage(0);
+}
+
+std::shared_ptr<Window> WindowSystem::Find(HWND window) const {
+  const auto found = windows_.find(window);
+  return found == windows_.end() ? nullptr : found->second->shared_from_this();
+}
+
+std::shared_ptr<FormWindow> WindowSystem::FindForm(HWND window) const {
+  return std::dynamic_pointer_cast<FormWindow>(Find(window));
+}
+
+std::shared_ptr<FormWindow> WindowSystem::FormAround(HWND control) const {
+  for (HWND window = control; window != nullptr; window = GetAncestor(window, GA_PARENT)) {
+    if (auto form = FindForm(window)) return form;
+  }
+  return nullptr;
+}
+
+void WindowSystem::Add(HWND window, Window& object) { windows_[window] = &object; }
+
+void WindowSystem::Remove(HWND window) { windows_.erase(window); }
+
+void WindowSystem::RefreshColors() { Palette.Refresh(); }
+
+bool WindowSystem::ShowPointer(int pointer) const {
+  const int shown = ScreenPointer() != PointerDefault ? ScreenPointer() : pointer;
+  if (shown == PointerDefault) return false;
+  SetCursor(LoadCursorA(nullptr, shown == PointerHourglass ? IDC_WAIT : IDC_HAND));
+  return true;
+}
+
+void WindowSystem::ScreenPointerChanged() {
+  POINT mouse{};
+  GetCursorPos(&mouse);
+  const HWND under = WindowFromPoint(mouse);
+  if (Find(under) == nullptr) return;
+  if (!ShowPointer(PointerDefault)) SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures) {
+  return std::make_unique<WindowSystem>(std::move(pictures));
+}
+
+}  // namespace vantrel::forms::win32

@@ -1,0 +1,68 @@
+// What the windows of one toolkit share: scale, colours, fonts, pictures, the list of windows by
+// handle, and the loops that let messages through.
+#ifndef VANTREL_FORMS_WIN32_WINDOWSYSTEM_H_
+#define VANTREL_FORMS_WIN32_WINDOWSYSTEM_H_
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+#include "forms/win32/Colors.h"
+#include "forms/win32/Fonts.h"
+#include "forms/win32/ImageStrips.h"
+#include "forms/win32/Scale.h"
+#include "forms/win32/Win32Toolkit.h"
+
+namespace vantrel::forms::win32 {
+
+class FormWindow;
+class Window;
+
+class WindowSystem final : public Win32Toolkit {
+ public:
+  explicit WindowSystem(Pictures pictures);
+
+  std::unique_ptr<FormPeer> MakeWindow(Form& form) override;
+  double TwipsPerPixelX() const override { return Pixels.TwipsPerPixel(); }
+  void RunMessageLoop() override;
+
+  // Runs the loop until the condition fails or the program is ending.
+  void RunWhile(const std::function<bool()>& goesOn);
+  // Runs an event of the models; ends all message loops if it has ended the program.
+  void Raise(const std::function<void()>& event) noexcept;
+
+  // The window of the handle if it is one of this toolkit's, else nullptr.
+  std::shared_ptr<Window> Find(HWND window) const;
+  std::shared_ptr<FormWindow> FindForm(HWND window) const;
+  // The form's window that a control's window lies in.
+  std::shared_ptr<FormWindow> FormAround(HWND control) const;
+  void Add(HWND window, Window& object);
+  void Remove(HWND window);
+
+  // The user's scheme has changed.
+  void RefreshColors();
+  // Shows the pointer of the program or, without one, `pointer`; false to leave it to Windows.
+  bool ShowPointer(int pointer) const;
+
+  const Scale Pixels;
+  Colors Palette;
+  Fonts Typefaces;
+  ImageStrips Images;
+  const UINT TaskbarCreatedMessage;
+
+ protected:
+  void PumpMessages() override;
+  void ScreenPointerChanged() override;
+
+ private:
+  void Dispatch(MSG& message);
+
+  std::unordered_map<HWND, Window*> windows_;
+  bool quitPosted_ = false;
+};
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_WINDOWSYSTEM_H_
