@@ -1,0 +1,227 @@
+#include "platform/memory/RegistryTree.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/memory/Fold.h"
+#include "platform/memory/Misuse.h"
+
+namespace vantrel::platform::memory {
+namespace {
+
+struct RootRow {
+  KeyHandle handle;
+  const char* shortName;
+  const char* longName;
+};
+
+constexpr std::array<RootRow, 5> Roots{{
+    {HKeyClassesRoot, "HKCR", "HKEY_CLASSES_ROOT"},
+    {HKeyCurrentUser, "HKCU", "HKEY_CURRENT_USER"},
+    {HKeyLocalMachine, "HKLM", "HKEY_LOCAL_MACHINE"},
+    {HKeyUsers, "HKU", "HKEY_USERS"},
+    {HKeyCurrentConfig, "HKCC", "HKEY_CURRENT_CONFIG"},
+}};
+
+auto PlaceOf(const RegistryKey& key, const std::string& folded) {
+  return std::lower_bound(
+      key.subkeys.begin(), key.subkeys.end(), folded,
+      [](const auto& subkey, const std::string& name) { return Fold(subkey->name) < name; });
+}
+
+void MarkDeleted(RegistryKey& key) {
+  key.deleted = true;
+  for (const auto& subkey : key.subkeys) MarkDeleted(*subkey);
+}
+
+}  // namespace
+
+std::vector<std::string> PathParts(std::string_view path) {
+  std::vector<std::string> parts;
+  while (!path.empty()) {
+    const std::size_t end = std::min(path.find('\\'), path.size());
+    if (end > 0) parts.emplace_back(path.substr(0, end));
+    path.remove_prefix(std::min(end + 1, path.size()));
+  }
+  return parts;
+}
+
+RegistryKey* RegistryKey::Subkey(std::string_view subkeyName) const {
+  const std::string folded = Fold(subkeyName);
+  const auto place = PlaceOf(*this, folded);
+  return place != subkeys.end() && Fold((*place)->name) == folded ? place->get() : nullptr;
+}
+
+RegistryKey& RegistryKey::MakeSubkey(std::string_view subkeyName) {
+  if (RegistryKey* const there = Subkey(subkeyName)) return *there;
+  auto made = std::make_shared<RegistryKey>();
+  made->name = subkeyName;
+  made->parent = this;
+  return **subkeys.insert(PlaceOf(*this, Fold(subkeyName)), std::move(made));
+}
+
+RegistryValue* RegistryKey::Value(std::string_view valueName) {
+  for (RegistryValue& value : values) {
+    if (SameName(value.name, valueName)) return &value;
+  }
+  return nullptr;
+}
+
+void RegistryKey::SetValue(const std::string& valueName, std::uint32_t type,
+                           std::string_view data) {
+  if (RegistryValue* const there = Value(valueName)) {
+    there->type = type;
+    there->data = data;
+    return;
+  }
+  values.push_back({valueName, type, std::string(data)});
+}
+
+bool RegistryKey::DeleteValue(std::string_view valueName) {
+  return std::erase_if(values, [valueName](const RegistryValue& value) {
+           return SameName(value.name, valueName);
+         }) > 0;
+}
+
+Refusal RegistryKey::EffectiveRefusal() const {
+  for (const RegistryKey* key = this; key != nullptr; key = key->parent) {
+    if (key->refusal) return *key->refusal;
+  }
+  return Refusal::None;
+}
+
+std::string RegistryKey::Path() const {
+  return parent == nullptr ? name : parent->Path() + "\\" + name;
+}
+
+void Unlink(RegistryKey& key) {
+  MarkDeleted(key);
+  auto& siblings = key.parent->subkeys;
+  // The last step: it may destroy the key.
+  siblings.erase(std::find_if(siblings.begin(), siblings.end(),
+                              [&key](const auto& each) { return each.get() == &key; }));
+}
+
+RegistryTree::RegistryTree() {
+  for (const RootRow& row : Roots) {
+    roots_[row.handle] = std::make_shared<RegistryKey>();
+    roots_[row.handle]->name = row.shortName;
+  }
+}
+
+std::shared_ptr<RegistryKey> RegistryTree::Root(KeyHandle root) const {
+  const auto found = roots_.find(root);
+  return found == roots_.end() ? nullptr : found->second;
+}
+
+KeyHandle RegistryTree::RootNamed(std::string_view name) {
+  for (const RootRow& row : Roots) {
+    if (SameName(name, row.shortName) || SameName(name, row.longName)) return row.handle;
+  }
+  return 0;
+}
+
+std::string RegistryTree::LongNameOf(KeyHandle root) {
+  for (const RootRow& row : Roots) {
+    if (row.handle == root) return row.longName;
+  }
+  return {};
+}
+
+RegistryKey* RegistryTree::Find(KeyHandle root, const std::string& subkey) const {
+  RegistryKey* key = Root(root).get();
+  Require(key != nullptr, "not a predefined root");
+  for (const std::string& part : PathParts(subkey)) {
+    key = key->Subkey(part);
+    if (key == nullptr) return nullptr;
+  }
+  return key;
+}
+
+RegistryKey& RegistryTree::Make(KeyHandle root, const std::string& subkey) {
+  RegistryKey* key = Root(root).get();
+  Require(key != nullptr, "not a predefined root");
+  for (const std::string& part : PathParts(subkey)) key = &key->MakeSubkey(part);
+  return *key;
+}
+
+void RegistryTree::MakeKey(KeyHandle root, const std::string& subkey) { Make(root, subkey); }
+
+bool RegistryTree::HasKey(KeyHandle root, const std::string& subkey) const {
+  return Find(root, subkey) != nullptr;
+}
+
+void RegistryTree::RemoveKey(KeyHandle root, const std::string& subkey) {
+  RegistryKey* const key = Find(root, subkey);
+  if (key == nullptr) return;
+  Require(key->parent != nullptr, "a root cannot be removed");
+  Unlink(*key);
+}
+
+std::vector<std::string> RegistryTree::Subkeys(KeyHandle root, const std::string& subkey) const {
+  std::vector<std::string> names;
+  if (const RegistryKey* const key = Find(root, subkey)) {
+    for (const auto& each : key->subkeys) names.push_back(each->name);
+  }
+  return names;
+}
+
+std::vector<RegistryValue> RegistryTree::Values(KeyHandle root, const std::string& subkey) const {
+  const RegistryKey* const key = Find(root, subkey);
+  return key == nullptr ? std::vector<RegistryValue>() : key->values;
+}
+
+void RegistryTree::Set(KeyHandle root, const std::string& subkey, const std::string& valueName,
+                       std::uint32_t type, std::string_view data) {
+  Make(root, subkey).SetValue(valueName, type, data);
+}
+
+void RegistryTree::SetString(KeyHandle root, const std::string& subkey,
+                             const std::string& valueName, const std::string& text) {
+  Set(root, subkey, valueName, RegSz, text + '\0');
+}
+
+void RegistryTree::SetDword(KeyHandle root, const std::string& subkey, const std::string& valueName,
+                            std::uint32_t number) {
+  std::string bytes;
+  for (int shift = 0; shift < 32; shift += 8) {
+    bytes.push_back(static_cast<char>(number >> shift & 0xFF));
+  }
+  Set(root, subkey, valueName, RegDword, bytes);
+}
+
+void RegistryTree::RemoveValue(KeyHandle root, const std::string& subkey,
+                               const std::string& valueName) {
+  if (RegistryKey* const key = Find(root, subkey)) key->DeleteValue(valueName);
+}
+
+std::optional<RegistryValue> RegistryTree::Get(KeyHandle root, const std::string& subkey,
+                                               const std::string& valueName) const {
+  RegistryKey* const key = Find(root, subkey);
+  const RegistryValue* const value = key == nullptr ? nullptr : key->Value(valueName);
+  return value == nullptr ? std::nullopt : std::optional(*value);
+}
+
+std::optional<std::string> RegistryTree::GetString(KeyHandle root, const std::string& subkey,
+                                                   const std::string& valueName) const {
+  const auto value = Get(root, subkey, valueName);
+  if (!value || (value->type != RegSz && value->type != RegExpandSz)) return std::nullopt;
+  return value->data.substr(0, value->data.find('\0'));
+}
+
+std::optional<std::uint32_t> RegistryTree::GetDword(KeyHandle root, const std::string& subkey,
+                                                    const std::string& valueName) const {
+  const auto value = Get(root, subkey, valueName);
+  if (!value || value->type != RegDword || value->data.size() != 4) return std::nullopt;
+  std::uint32_t number = 0;
+  for (int i = 3; i >= 0; --i) {
+    number = number << 8 | static_cast<unsigned char>(value->data[static_cast<std::size_t>(i)]);
+  }
+  return number;
+}
+
+void RegistryTree::Refuse(KeyHandle root, const std::string& subkey, Refusal refusal) {
+  Make(root, subkey).refusal = refusal;
+}
+
+}  // namespace vantrel::platform::memory

@@ -1,0 +1,271 @@
+#include "platform/memory/RegistryView.h"
+
+#include <algorithm>
+
+#include "platform/memory/Misuse.h"
+
+namespace vantrel::platform::memory {
+namespace {
+
+constexpr std::uint32_t QueryValue = 0x1;
+constexpr std::uint32_t SetValue = 0x2;
+constexpr std::uint32_t CreateSubKey = 0x4;
+constexpr std::uint32_t EnumerateSubKeys = 0x8;
+constexpr std::uint32_t Delete = 0x10000;
+constexpr std::uint32_t MaximumAllowed = 0x02000000;
+// Set value, create subkey, create link, delete, write the security record and the owner.
+constexpr std::uint32_t WriteRights = 0xD0026;
+constexpr std::uint32_t GenericRead = 0x80000000;
+constexpr std::uint32_t GenericWrite = 0x40000000;
+constexpr std::uint32_t GenericExecute = 0x20000000;
+constexpr std::uint32_t GenericAll = 0x10000000;
+constexpr std::uint32_t KeyWrite = 0x20006;
+
+constexpr std::int32_t ErrorBadPathName = 161;
+
+std::uint32_t MapGeneric(std::uint32_t access) {
+  std::uint32_t mapped = access & 0x0FFFFFFF;
+  if ((access & (GenericRead | GenericExecute)) != 0) mapped |= KeyRead;
+  if ((access & GenericWrite) != 0) mapped |= KeyWrite;
+  if ((access & GenericAll) != 0) mapped |= KeyAllAccess;
+  return mapped;
+}
+
+// What may be had of a key at most.
+std::uint32_t Allowed(const RegistryKey& key) {
+  switch (key.EffectiveRefusal()) {
+    case Refusal::None:
+      return KeyAllAccess;
+    case Refusal::Write:
+      return KeyAllAccess & ~WriteRights;
+    case Refusal::All:
+      return 0;
+  }
+  return 0;
+}
+
+// A name as the A calls take it: up to its first NUL.
+std::string UpToNul(const std::string& name) { return {name.c_str()}; }
+
+}  // namespace
+
+RegistryView::OpenKey RegistryView::Lookup(KeyHandle handle) const {
+  if (auto root = tree_.Root(handle)) {
+    const std::uint32_t granted = Allowed(*root);
+    return {std::move(root), granted};
+  }
+  const auto found = open_.find(handle);
+  return found == open_.end() ? OpenKey() : found->second;
+}
+
+std::int32_t RegistryView::Check(const OpenKey& open, std::uint32_t rights) const {
+  if (!open.key) return ErrorInvalidHandle;
+  if ((open.granted & rights) != rights) return ErrorAccessDenied;
+  return open.key->deleted ? ErrorKeyDeleted : ErrorSuccess;
+}
+
+std::int32_t RegistryView::Walk(KeyHandle root, const std::string& subkey,
+                                std::shared_ptr<RegistryKey>& found) const {
+  const OpenKey open = Lookup(root);
+  if (const std::int32_t code = Check(open, 0); code != ErrorSuccess) return code;
+  if (subkey.starts_with('\\')) return ErrorBadPathName;
+  found = open.key;
+  for (const std::string& part : PathParts(subkey)) {
+    if (part.size() > MaxKeyNameLength) return ErrorInvalidParameter;
+    RegistryKey* const below = found->Subkey(part);
+    if (below == nullptr) return ErrorFileNotFound;
+    found = below->shared_from_this();
+  }
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::Grant(const std::shared_ptr<RegistryKey>& key, std::uint32_t access,
+                                 KeyHandle& opened) {
+  const std::uint32_t allowed = Allowed(*key);
+  std::uint32_t granted = MapGeneric(access) & KeyAllAccess;
+  if ((granted & ~allowed) != 0 || key->EffectiveRefusal() == Refusal::All) {
+    return ErrorAccessDenied;
+  }
+  if ((access & MaximumAllowed) != 0) granted = allowed;
+  opened = next_;
+  next_ += 4;
+  open_[opened] = {key, granted};
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::Open(KeyHandle root, const std::string& subkey, std::uint32_t access,
+                                KeyHandle& opened) {
+  std::shared_ptr<RegistryKey> key;
+  if (const std::int32_t code = Walk(root, UpToNul(subkey), key); code != ErrorSuccess) return code;
+  return Grant(key, access, opened);
+}
+
+std::int32_t RegistryView::Create(KeyHandle root, const std::string& subkey, std::uint32_t access,
+                                  KeyHandle& opened) {
+  const OpenKey open = Lookup(root);
+  if (const std::int32_t code = Check(open, 0); code != ErrorSuccess) return code;
+  const std::string path = UpToNul(subkey);
+  if (path.starts_with('\\')) return ErrorBadPathName;
+  std::shared_ptr<RegistryKey> key = open.key;
+  for (const std::string& part : PathParts(path)) {
+    if (part.size() > MaxKeyNameLength) return ErrorInvalidParameter;
+    if (key->Subkey(part) == nullptr && (Allowed(*key) & CreateSubKey) == 0) {
+      return ErrorAccessDenied;
+    }
+    key = key->MakeSubkey(part).shared_from_this();
+  }
+  return Grant(key, access, opened);
+}
+
+std::int32_t RegistryView::Query(KeyHandle key, const std::string& valueName, std::uint32_t& type,
+                                 std::span<char> buffer, std::uint32_t& length) const {
+  const OpenKey open = Lookup(key);
+  if (const std::int32_t code = Check(open, QueryValue); code != ErrorSuccess) return code;
+  const RegistryValue* const value = open.key->Value(UpToNul(valueName));
+  if (value == nullptr) return ErrorFileNotFound;
+  const std::uint32_t room = length;
+  Require(room <= buffer.size(), "the room is larger than the buffer");
+  type = value->type;
+  length = static_cast<std::uint32_t>(value->data.size());
+  if (length > room) return ErrorMoreData;
+  std::copy(value->data.begin(), value->data.end(), buffer.begin());
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::Set(KeyHandle key, const std::string& valueName, std::uint32_t type,
+                               std::string_view data) const {
+  const OpenKey open = Lookup(key);
+  if (const std::int32_t code = Check(open, SetValue); code != ErrorSuccess) return code;
+  const std::string name = UpToNul(valueName);
+  if (name.size() > MaxValueNameLength) return ErrorInvalidParameter;
+  open.key->SetValue(name, type, data);
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::DeleteKey(KeyHandle root, const std::string& subkey) const {
+  std::shared_ptr<RegistryKey> key;
+  if (const std::int32_t code = Walk(root, UpToNul(subkey), key); code != ErrorSuccess) return code;
+  const bool allowed = (Allowed(*key) & Delete) != 0;
+  if (!allowed || !key->subkeys.empty() || key->parent == nullptr) return ErrorAccessDenied;
+  Unlink(*key);
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::DeleteValue(KeyHandle key, const std::string& valueName) const {
+  const OpenKey open = Lookup(key);
+  if (const std::int32_t code = Check(open, SetValue); code != ErrorSuccess) return code;
+  return open.key->DeleteValue(UpToNul(valueName)) ? ErrorSuccess : ErrorFileNotFound;
+}
+
+std::int32_t RegistryView::EnumValue(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                     std::string& name, std::uint32_t& type, std::uint32_t dataRoom,
+                                     std::string& data) const {
+  const OpenKey open = Lookup(key);
+  if (const std::int32_t code = Check(open, QueryValue); code != ErrorSuccess) return code;
+  if (index >= open.key->values.size()) return ErrorNoMoreItems;
+  const RegistryValue& value = open.key->values[index];
+  if (value.name.size() >= nameRoom || value.data.size() > dataRoom) return ErrorMoreData;
+  name = value.name;
+  type = value.type;
+  data = value.data;
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::EnumKey(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                   std::string& name) const {
+  const OpenKey open = Lookup(key);
+  if (const std::int32_t code = Check(open, EnumerateSubKeys); code != ErrorSuccess) return code;
+  if (index >= open.key->subkeys.size()) return ErrorNoMoreItems;
+  if (open.key->subkeys[index]->name.size() >= nameRoom) return ErrorMoreData;
+  name = open.key->subkeys[index]->name;
+  return ErrorSuccess;
+}
+
+std::int32_t RegistryView::Close(KeyHandle key) {
+  if (tree_.Root(key)) return ErrorSuccess;
+  return open_.erase(key) > 0 ? ErrorSuccess : ErrorInvalidHandle;
+}
+
+std::string RegistryView::Describe(KeyHandle handle, const std::string& subkey) const {
+  const OpenKey open = Lookup(handle);
+  const std::string path = open.key ? open.key->Path() : Hex(handle);
+  return subkey.empty() ? path : path + '\\' + subkey;
+}
+
+std::string RegistryView::DescribeValue(KeyHandle handle, const std::string& valueName) const {
+  return Describe(handle) + ' ' + Quoted(valueName);
+}
+
+std::int32_t RegistryView::RegOpenKeyExA(KeyHandle root, const std::string& subkey,
+                                         std::uint32_t access, KeyHandle& opened) {
+  return gate_.RunCode("RegOpenKeyExA", Describe(root, subkey) + ' ' + Hex(access),
+                       [&] { return Open(root, subkey, access, opened); });
+}
+
+std::int32_t RegistryView::RegOpenKeyA(KeyHandle root, const std::string& subkey,
+                                       KeyHandle& opened) {
+  return gate_.RunCode("RegOpenKeyA", Describe(root, subkey), [&]() -> std::int32_t {
+    if (UpToNul(subkey).empty()) {
+      opened = root;
+      return ErrorSuccess;
+    }
+    return Open(root, subkey, MaximumAllowed, opened);
+  });
+}
+
+std::int32_t RegistryView::RegCreateKeyExA(KeyHandle root, const std::string& subkey,
+                                           std::uint32_t access, bool withSecurityRecord,
+                                           KeyHandle& opened) {
+  return gate_.RunCode("RegCreateKeyExA",
+                       Describe(root, subkey) + ' ' + Hex(access) +
+                           (withSecurityRecord ? " with a security record" : ""),
+                       [&] { return Create(root, subkey, access, opened); });
+}
+
+std::int32_t RegistryView::RegQueryValueExA(KeyHandle key, const std::string& valueName,
+                                            std::uint32_t& type, std::span<char> buffer,
+                                            std::uint32_t& length) {
+  return gate_.RunCode("RegQueryValueExA",
+                       DescribeValue(key, valueName) + ' ' + std::to_string(length),
+                       [&] { return Query(key, valueName, type, buffer, length); });
+}
+
+std::int32_t RegistryView::RegSetValueExA(KeyHandle key, const std::string& valueName,
+                                          std::uint32_t type, std::string_view data) {
+  std::string arguments = DescribeValue(key, valueName) + ' ' + std::to_string(type);
+  for (const char byte : data) arguments += ' ' + Hex(static_cast<unsigned char>(byte)).substr(2);
+  if (type == RegSz) {
+    arguments = DescribeValue(key, valueName) + " 1 " + Quoted(std::string(data));
+  }
+  return gate_.RunCode("RegSetValueExA", arguments,
+                       [&] { return Set(key, valueName, type, data); });
+}
+
+std::int32_t RegistryView::RegDeleteKeyA(KeyHandle root, const std::string& subkey) {
+  return gate_.RunCode("RegDeleteKeyA", Describe(root, subkey),
+                       [&] { return DeleteKey(root, subkey); });
+}
+
+std::int32_t RegistryView::RegDeleteValueA(KeyHandle key, const std::string& valueName) {
+  return gate_.RunCode("RegDeleteValueA", DescribeValue(key, valueName),
+                       [&] { return DeleteValue(key, valueName); });
+}
+
+std::int32_t RegistryView::RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                         std::string& name, std::uint32_t& type,
+                                         std::uint32_t dataRoom, std::string& data) {
+  return gate_.RunCode("RegEnumValueA", Describe(key) + ' ' + std::to_string(index),
+                       [&] { return EnumValue(key, index, nameRoom, name, type, dataRoom, data); });
+}
+
+std::int32_t RegistryView::RegEnumKeyA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                       std::string& name) {
+  return gate_.RunCode("RegEnumKeyA", Describe(key) + ' ' + std::to_string(index),
+                       [&] { return EnumKey(key, index, nameRoom, name); });
+}
+
+std::int32_t RegistryView::RegCloseKey(KeyHandle key) {
+  return gate_.RunCode("RegCloseKey", Describe(key), [&] { return Close(key); });
+}
+
+}  // namespace vantrel::platform::memory
