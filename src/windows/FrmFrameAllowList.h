@@ -17,7 +17,7 @@ class FrmFrameAllowList : public forms::Form {
   forms::ImageList imglweb{*this, "imglweb", {"a"}};
 
   forms::Label Label63{
-      *this, "Label63", {.Caption = "Allowed List", .At = Grid(12, 0, 200, 8), .Visible = false}};
+      *this, "Label63", {.Caption = "Allowed List", .At = Grid(12, 8, 200, 15), .Visible = false}};
   forms::Frame Frame11{*this, "Frame11", {.Caption = "Allowed List", .At = PanelFrame}};
   forms::Label Label5{
       Frame11,
@@ -73,7 +73,7 @@ class FrmFrameAllowList : public forms::Form {
   forms::ListView lstGroup{Frame11,
                            "lstGroup",
                            {.Caption = "Allowed websites", .At = Grid(16, 168, 408, 86)},
-                           {.Columns = {{"Website", Steps(117)},
+                           {.Columns = {{"Website", Steps(116)},
                                         {"Popups", Steps(54)},
                                         {"DHTML", Steps(54)},
                                         {"Dialogs", Steps(54)},

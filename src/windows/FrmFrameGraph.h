@@ -16,7 +16,7 @@ class FrmFrameGraph : public forms::Form {
   forms::Label Label66{
       *this,
       "Label66",
-      {.Caption = "Graphs and Statistics", .At = Grid(12, 0, 200, 8), .Visible = false}};
+      {.Caption = "Graphs and Statistics", .At = Grid(12, 8, 200, 15), .Visible = false}};
   forms::Frame Graphs{*this, "Graphs", {.Caption = "Graphs and Statistics", .At = PanelFrame}};
   forms::Label Label43{
       Graphs,

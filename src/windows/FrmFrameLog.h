@@ -14,7 +14,7 @@ class FrmFrameLog : public forms::Form {
   explicit FrmFrameLog(forms::Toolkit& toolkit);
 
   forms::Label Label67{
-      *this, "Label67", {.Caption = "Detail Logs", .At = Grid(12, 0, 200, 8), .Visible = false}};
+      *this, "Label67", {.Caption = "Detail Logs", .At = Grid(12, 8, 200, 15), .Visible = false}};
   forms::Frame Frame14{*this, "Frame14", {.Caption = "Detail Logs", .At = PanelFrame}};
   forms::Label Label45{Frame14,
                        "Label45",

@@ -1,0 +1,221 @@
+// What holds of the layout of every window, without regard to how anything is drawn.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "Designs.h"
+
+namespace vantrel::windows {
+namespace {
+
+using forms::Control;
+using forms::Form;
+using forms::Place;
+
+int Right(const Place& place) { return place.Left + place.Width; }
+int Bottom(const Place& place) { return place.Top + place.Height; }
+
+bool Overlap(const Place& one, const Place& other) {
+  return one.Left < Right(other) && other.Left < Right(one) && one.Top < Bottom(other) &&
+         other.Top < Bottom(one);
+}
+
+// Whether it has a place at all: timers have none, and what a link is made of is its own affair.
+bool IsPlaced(const Control& control) {
+  return dynamic_cast<const forms::Timer*>(&control) == nullptr &&
+         dynamic_cast<const forms::UserControl*>(control.Container()) == nullptr;
+}
+
+// The inside of a window with the widest frame and the highest caption and menu bar in use.
+Place Inside(const Form& form) {
+  if (form.Designed().Frame == forms::Border::Panel) return {0, 0, form.Width(), form.Height()};
+  if (form.Designed().Frame == forms::Border::Dialog) {
+    return {0, 0, form.Width() - Steps(16), form.Height() - Steps(39)};
+  }
+  return Grid(0, 0, 612, 412);
+}
+
+Place InsideOf(const Control& control) {
+  if (control.Container() == nullptr) return Inside(control.Owner());
+  return {0, 0, control.Container()->At().Width, control.Container()->At().Height};
+}
+
+class Layout : public testing::Test {
+ protected:
+  void ForEach(const std::function<void(Control&)>& check) {
+    for (Form* form : designs_.All()) {
+      for (Control* control : form->Controls()) {
+        if (!IsPlaced(*control)) continue;
+        SCOPED_TRACE(control->QualifiedName());
+        check(*control);
+      }
+    }
+  }
+
+  Designs designs_;
+};
+
+TEST_F(Layout, EverythingLiesOnTheGrid) {
+  ForEach([](Control& control) {
+    for (const int twips :
+         {control.At().Left, control.At().Top, control.At().Width, control.At().Height}) {
+      EXPECT_EQ(twips % GridStep, 0);
+    }
+  });
+}
+
+TEST_F(Layout, EverythingLiesInsideItsContainer) {
+  ForEach([](Control& control) {
+    const Place inside = InsideOf(control);
+    EXPECT_GE(control.At().Left, 0);
+    EXPECT_GE(control.At().Top, 0);
+    EXPECT_LE(Right(control.At()), inside.Width);
+    EXPECT_LE(Bottom(control.At()), inside.Height);
+    EXPECT_GT(control.At().Width, 0);
+    EXPECT_GT(control.At().Height, 0);
+  });
+}
+
+TEST_F(Layout, NothingVisibleOverlapsItsNeighbour) {
+  for (Form* form : designs_.All()) {
+    const std::vector<Control*>& controls = form->Controls();
+    for (std::size_t one = 0; one < controls.size(); ++one) {
+      for (std::size_t other = one + 1; other < controls.size(); ++other) {
+        const Control& first = *controls[one];
+        const Control& second = *controls[other];
+        if (first.Container() != second.Container() || !IsPlaced(first) || !IsPlaced(second) ||
+            !first.Visible() || !second.Visible()) {
+          continue;
+        }
+        EXPECT_FALSE(Overlap(first.At(), second.At()))
+            << first.QualifiedName() << " and " << second.QualifiedName();
+      }
+    }
+  }
+}
+
+TEST_F(Layout, WhatLiesInAFrameKeepsClearOfItsLineAndCaption) {
+  ForEach([](Control& control) {
+    const auto* frame = dynamic_cast<forms::Frame*>(control.Container());
+    if (frame == nullptr || frame->Caption().empty()) return;
+    EXPECT_GE(control.At().Top, Steps(15));
+    EXPECT_GE(control.At().Left, Steps(8));
+    EXPECT_LE(Right(control.At()), frame->At().Width - Steps(8));
+    EXPECT_LE(Bottom(control.At()), frame->At().Height - Steps(3));
+  });
+}
+
+TEST_F(Layout, PanelsLieAtOnePlaceRightOfTheColumnBelowTheTitle) {
+  for (const Form* panel : designs_.Panels) {
+    EXPECT_EQ(panel->Designed().Left, PanelPlace.Left);
+    EXPECT_EQ(panel->Designed().Top, PanelPlace.Top);
+    EXPECT_EQ(panel->Width(), Steps(462));
+    EXPECT_EQ(panel->Height(), Steps(304));
+  }
+  EXPECT_EQ(designs_.Main.frahelp.At(), PanelPlace);
+  EXPECT_FALSE(Overlap(PanelPlace, designs_.Main.PicBase.At()));
+  EXPECT_FALSE(Overlap(PanelPlace, designs_.Main.lblVCP1.At()));
+  EXPECT_FALSE(Overlap(PanelPlace, designs_.Main.sbStatusBar.At()));
+}
+
+TEST_F(Layout, TheMainWindowHasItsStartSize) {
+  EXPECT_EQ(designs_.Main.Width(), 9300);
+  EXPECT_EQ(designs_.Main.Height(), 6998);
+}
+
+TEST_F(Layout, LinksOfTheColumnAreTwentyStepsApartBesideTheirIcons) {
+  int links = 0;
+  const Control* before = nullptr;
+  for (const Control* control : designs_.Main.Controls()) {
+    if (dynamic_cast<const controls::HyperLink*>(control) == nullptr) continue;
+    ++links;
+    if (before != nullptr && control->At().Top - before->At().Top < Steps(40)) {
+      EXPECT_EQ(control->At().Top - before->At().Top, Steps(20)) << control->Name();
+    }
+    before = control;
+  }
+  EXPECT_EQ(links, 12);
+}
+
+TEST_F(Layout, ButtonsAreOfOneHeight) {
+  ForEach([](Control& control) {
+    if (dynamic_cast<forms::CommandButton*>(&control) != nullptr) {
+      EXPECT_EQ(control.At().Height, Steps(23));
+    }
+  });
+}
+
+TEST_F(Layout, ColumnsFillTheirListsButForTheScrollBar) {
+  ForEach([](Control& control) {
+    const auto* list = dynamic_cast<forms::ListView*>(&control);
+    if (list == nullptr) return;
+    int width = 0;
+    for (const forms::Column& column : list->Columns()) width += column.Width;
+    EXPECT_EQ(width, list->At().Width - Steps(22));
+  });
+}
+
+// What a screen reader says of the control: its text, or that of the label before it.
+std::string AccessibleName(const Control& control) {
+  const bool named = dynamic_cast<const forms::TextBox*>(&control) == nullptr &&
+                     dynamic_cast<const forms::ComboBox*>(&control) == nullptr;
+  if (named) return control.WindowText();
+  const std::vector<Control*>& all = control.Owner().Controls();
+  const auto at = std::find(all.begin(), all.end(), &control);
+  if (at == all.begin()) return "";
+  const auto* label = dynamic_cast<const forms::Label*>(*(at - 1));
+  return label != nullptr ? label->Caption() : "";
+}
+
+TEST_F(Layout, WhateverTabVisitsHasANameOfItsOwn) {
+  std::set<std::string> names;
+  ForEach([&names](Control& control) {
+    if (!control.IsTabStop()) return;
+    // Never seen, whatever the user does.
+    static const std::set<std::string> unseen{"Text1", "txtCommand", "flbpluginsfile"};
+    if (unseen.count(control.Name()) > 0) return;
+    const std::string name = AccessibleName(control);
+    EXPECT_NE(name, "");
+    // Links and buttons of one caption are told apart by their tool tips.
+    EXPECT_TRUE(
+        names.insert(control.Owner().Name() + '|' + name + '|' + control.ToolTipText()).second)
+        << name;
+  });
+}
+
+TEST_F(Layout, EachHelpLinkTellsOnWhat) {
+  ForEach([](Control& control) {
+    const auto* label = dynamic_cast<forms::Label*>(&control);
+    if (label != nullptr && label->IsTabStop() && label->Caption() == "Help") {
+      EXPECT_NE(label->ToolTipText(), "");
+    }
+  });
+}
+
+// The letter behind the first single "&", in lower case; 0 without one.
+char AccessKey(const std::string& caption) {
+  for (std::size_t at = 0; at + 1 < caption.size(); ++at) {
+    if (caption[at] != '&') continue;
+    if (caption[at + 1] != '&') return static_cast<char>(caption[at + 1] | 0x20);
+    ++at;
+  }
+  return 0;
+}
+
+TEST_F(Layout, NoTwoControlsOfAWindowShareAnAccessKey) {
+  std::map<const Form*, std::set<char>> used;
+  ForEach([&used](Control& control) {
+    if (dynamic_cast<forms::CaptionedControl*>(&control) == nullptr || !control.Visible()) return;
+    if (const char key = AccessKey(control.WindowText())) {
+      EXPECT_TRUE(used[&control.Owner()].insert(key).second) << key;
+    }
+  });
+}
+
+}  // namespace
+}  // namespace vantrel::windows
