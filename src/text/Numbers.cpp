@@ -79,7 +79,7 @@ double StrictDecimal(std::string_view text) {
 double HalfToEven(double number) {
   const double below = std::floor(number);
   const double rest = number - below;
-  if (rest != 0.5) return std::floor(number + 0.5);
+  if (rest != 0.5) return rest < 0.5 ? below : below + 1;
   return std::fmod(below, 2) == 0 ? below : below + 1;
 }
 
