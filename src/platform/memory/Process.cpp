@@ -308,7 +308,12 @@ class SystemView : public System {
 
   bool PreviousInstanceRuns() override {
     return context_.gate.Run(
-        "PreviousInstanceRuns", "", [&] { return Claim(); }, [](std::int32_t) { return false; });
+        "PreviousInstanceRuns", "",
+        [&] {
+          if (!previous_) previous_ = Claim();
+          return *previous_;
+        },
+        [](std::int32_t) { return false; });
   }
 
  private:
@@ -336,6 +341,7 @@ class SystemView : public System {
   }
 
   Context& context_;
+  std::optional<bool> previous_;  // absent until asked
 };
 
 std::string FolderOf(const std::string& executable) {

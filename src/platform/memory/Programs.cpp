@@ -73,7 +73,8 @@ std::int32_t Programs::FindProgram(const std::string& folder, StartedProcess& pr
   }
   const std::string& path = process.application;
   process.program = path;
-  process.arguments = process.commandLine;
+  const bool inFront = process.commandLine.starts_with(path);
+  process.arguments = ArgumentsBehind(process.commandLine, inFront ? path.size() : 0);
   if (Exists(path)) return ErrorSuccess;
   if (files_.IsFolder(path)) return ErrorAccessDenied;
   const std::size_t slash = path.find_last_of("\\/");

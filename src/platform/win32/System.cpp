@@ -1,0 +1,73 @@
+#include "platform/System.h"
+
+#include <windows.h>
+
+#include "platform/win32/Adapters.h"
+#include "platform/win32/Handle.h"
+
+namespace vantrel::platform::win32 {
+namespace {
+
+static_assert(sizeof(OSVERSIONINFOEXA) == 156);
+
+std::string ExecutablePath() {
+  std::string path(MAX_PATH, '\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) return path.substr(0, length);
+    path.resize(path.size() * 2);
+  }
+}
+
+class SystemAdapter : public System {
+ public:
+  std::int32_t GetVersionExA(VersionRecord& record) override {
+    OSVERSIONINFOEXA version{};
+    version.dwOSVersionInfoSize = record.size;
+    const BOOL result = ::GetVersionExA(reinterpret_cast<OSVERSIONINFOA*>(&version));
+    record.majorVersion = version.dwMajorVersion;
+    record.minorVersion = version.dwMinorVersion;
+    record.buildNumber = version.dwBuildNumber;
+    record.platformId = version.dwPlatformId;
+    return result;
+  }
+
+  std::string CommandLineTail() override { return SplitCommandLine(GetCommandLineA()).tail; }
+
+  std::string ProgramFolder() override {
+    const std::string path = ExecutablePath();
+    const std::size_t slash = path.rfind('\\');
+    // A drive's root keeps its backslash.
+    return path.substr(0, slash == 2 ? 3 : slash);
+  }
+
+  std::string ProgramName() override {
+    const std::string path = ExecutablePath();
+    const std::string file = path.substr(path.rfind('\\') + 1);
+    return file.substr(0, file.rfind('.'));
+  }
+
+  bool PreviousInstanceRuns() override {
+    if (!claim_.Valid()) Claim();
+    return previous_;
+  }
+
+ private:
+  void Claim() {
+    std::string name = "Local\\Instance." + ProgramName();
+    CharUpperBuffA(name.data() + 6, static_cast<DWORD>(name.size() - 6));
+    claim_.Reset(CreateMutexA(nullptr, FALSE, name.c_str()));
+    // A mutex that may not be opened is another copy's, running with greater rights.
+    const DWORD error = GetLastError();
+    previous_ = error == ERROR_ALREADY_EXISTS || error == ERROR_ACCESS_DENIED;
+  }
+
+  KernelHandle claim_;
+  bool previous_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<System> MakeSystem() { return std::make_unique<SystemAdapter>(); }
+
+}  // namespace vantrel::platform::win32
