@@ -98,11 +98,15 @@ const HyperLink::Property HyperLink::Properties[] = {
     {"forecolor", [](const HyperLink& link) { return ColorText(link.ForeColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
-     [](HyperLink& link, const std::string& text) { link.ShowForeColor(ColorOf(text)); }},
+     [](HyperLink& link, const std::string& text) {
+       link.lblHyperlink.SetForeColor(ColorOf(text));
+     }},
     {"backcolor", [](const HyperLink& link) { return ColorText(link.BackColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerBackColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerBackColor()); },
-     [](HyperLink& link, const std::string& text) { link.ShowBackColor(ColorOf(text)); }},
+     [](HyperLink& link, const std::string& text) {
+       link.lblHyperlink.SetBackColor(ColorOf(text));
+     }},
     {"autotooltip", [](const HyperLink& link) { return BooleanText(link.autoToolTip_); },
      DefaultBoolean<true>, DefaultBoolean<true>,
      [](HyperLink& link, const std::string& text) { link.autoToolTip_ = Boolean(text); }},
@@ -218,12 +222,12 @@ void HyperLink::SetBorderStyle(std::int16_t borderStyle) {
 }
 
 void HyperLink::SetForeColor(forms::Color color) {
-  ShowForeColor(color);
+  lblHyperlink.SetForeColor(color);
   PropertyChanged("ForeColor");
 }
 
 void HyperLink::SetBackColor(forms::Color color) {
-  ShowBackColor(color);
+  lblHyperlink.SetBackColor(color);
   PropertyChanged("BackColor");
 }
 
@@ -276,10 +280,10 @@ bool HyperLink::IsMouseOver() const {
 void HyperLink::MouseLeave() {
   text::ErrorTrap trap;
   isOver_ = false;
-  trap([&] { ShowForeColor(savedForeColor_); });
+  trap([&] { lblHyperlink.SetForeColor(savedForeColor_); });
   if (moUnderline_ && !ContainerFont().Underline) trap([&] { ShowUnderline(false); });
   // Meant: the same pointer as on entering.
-  if (moPointer_) trap([&] { ShowPointer(forms::PointerCustom); });
+  if (moPointer_) trap([&] { lblHyperlink.SetMousePointer(forms::PointerCustom); });
   trap([&] { MouseOut(); });
 }
 
@@ -292,7 +296,9 @@ void HyperLink::SyncSize() {
   }
 }
 
-void HyperLink::UserClick() { lblHyperlink.UserClick(); }
+void HyperLink::UserClick() {
+  if (Control::Enabled()) lblHyperlink.UserClick();
+}
 
 const forms::Font& HyperLink::ContainerFont() const {
   static const forms::Font dialogFont;
@@ -311,17 +317,6 @@ void HyperLink::ShowFont(const forms::Font& font) {
   forms::Font own = font;
   own.Name = fontNames_.insert(font.Name).first->c_str();
   lblHyperlink.SetTextFont(own);
-  SetTextFont(own);
-}
-
-void HyperLink::ShowForeColor(forms::Color color) {
-  lblHyperlink.SetForeColor(color);
-  Control::SetForeColor(color);
-}
-
-void HyperLink::ShowBackColor(forms::Color color) {
-  lblHyperlink.SetBackColor(color);
-  Control::SetBackColor(color);
 }
 
 void HyperLink::ShowEnabled(bool enabled) {
@@ -332,12 +327,6 @@ void HyperLink::ShowEnabled(bool enabled) {
 void HyperLink::ShowAlignment(std::int16_t alignment) {
   if (alignment < 0 || alignment > 2) RaiseInvalidValue();
   lblHyperlink.SetAlignment(static_cast<forms::Align>(alignment));
-  Control::SetAlignment(static_cast<forms::Align>(alignment));
-}
-
-void HyperLink::ShowPointer(int pointer) {
-  lblHyperlink.SetMousePointer(pointer);
-  SetMousePointer(pointer);
 }
 
 void HyperLink::ShowUnderline(bool underline) {
@@ -348,7 +337,6 @@ void HyperLink::ShowUnderline(bool underline) {
 
 void HyperLink::ShowToolTip() {
   lblHyperlink.SetToolTipText(autoToolTip_ ? address_ : ToolTipText());
-  Changed(forms::Aspect::ToolTip);
 }
 
 void HyperLink::ReadFont(const std::string& text) {
@@ -365,9 +353,9 @@ void HyperLink::ReadFont(const std::string& text) {
 void HyperLink::LabelMoved(int button, int shift, float x, float y) {
   if (isOver_) return;
   isOver_ = true;
-  if (moPointer_) ShowPointer(forms::PointerCustom);
+  if (moPointer_) lblHyperlink.SetMousePointer(forms::PointerCustom);
   savedForeColor_ = ForeColor();
-  ShowForeColor(hoverColor_);
+  lblHyperlink.SetForeColor(hoverColor_);
   if (moUnderline_) ShowUnderline(true);
   ShowToolTip();
   myTimer.SetEnabled(true);

@@ -114,11 +114,8 @@ class HyperLink : public forms::UserControl {
   forms::Color ContainerForeColor() const;
   forms::Color ContainerBackColor() const;
   void ShowFont(const forms::Font& font);
-  void ShowForeColor(forms::Color color);
-  void ShowBackColor(forms::Color color);
   void ShowEnabled(bool enabled);
   void ShowAlignment(std::int16_t alignment);
-  void ShowPointer(int pointer);
   void ShowUnderline(bool underline);
   void ShowToolTip();
   void ReadFont(const std::string& text);

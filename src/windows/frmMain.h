@@ -98,36 +98,36 @@ class frmMain : public forms::Form {
   forms::Image ImgWelcome{PicBase, "ImgWelcome", {.At = Grid(12, 30, 16, 16)}};
   controls::HyperLink LnkWelcome{PicBase,
                                  "LnkWelcome",
-                                 {.At = Grid(34, 30, 112, 16)},
+                                 {.At = Grid(34, 31, 112, 14)},
                                  SavedLink("Welcome", forms::palette::PureBlue)};
   forms::Image ImgAdBlocking{PicBase, "ImgAdBlocking", {.At = Grid(12, 50, 16, 16)}};
   controls::HyperLink LnkAdBlocking{
-      PicBase, "LnkAdBlocking", {.At = Grid(34, 50, 112, 16)}, SavedLink("Ad Blocking")};
+      PicBase, "LnkAdBlocking", {.At = Grid(34, 51, 112, 14)}, SavedLink("Ad Blocking")};
   forms::Image ImgSettings{PicBase, "ImgSettings", {.At = Grid(12, 70, 16, 16)}};
   controls::HyperLink LnkSettings{
-      PicBase, "LnkSettings", {.At = Grid(34, 70, 112, 16)}, SavedLink("Settings")};
+      PicBase, "LnkSettings", {.At = Grid(34, 71, 112, 14)}, SavedLink("Settings")};
   forms::Image ImgAllowed{PicBase, "ImgAllowed", {.At = Grid(12, 90, 16, 16)}};
   controls::HyperLink LnkAllowedList{
-      PicBase, "LnkAllowedList", {.At = Grid(34, 90, 112, 16)}, SavedLink("Allowed List")};
+      PicBase, "LnkAllowedList", {.At = Grid(34, 91, 112, 14)}, SavedLink("Allowed List")};
   forms::Image IMgNotify{PicBase, "IMgNotify", {.At = Grid(12, 110, 16, 16)}};
   controls::HyperLink LnkNotification{
-      PicBase, "LnkNotification", {.At = Grid(34, 110, 112, 16)}, SavedLink("Notification")};
+      PicBase, "LnkNotification", {.At = Grid(34, 111, 112, 14)}, SavedLink("Notification")};
   forms::Label Label2{
       PicBase,
       "Label2",
       {.Caption = "Security", .At = Grid(0, 135, 150, 19), .Drawn = forms::Look::GroupHeading}};
   forms::Image ImgClean{PicBase, "ImgClean", {.At = Grid(12, 157, 16, 16)}};
   controls::HyperLink lnkClean{
-      PicBase, "lnkClean", {.At = Grid(34, 157, 112, 16)}, SavedLink("Clean")};
+      PicBase, "lnkClean", {.At = Grid(34, 158, 112, 14)}, SavedLink("Clean")};
   forms::Image IeSettings{PicBase, "IeSettings", {.At = Grid(12, 177, 16, 16)}};
   controls::HyperLink LnkIESettings{
-      PicBase, "LnkIESettings", {.At = Grid(34, 177, 112, 16)}, SavedLink("IE Settings")};
+      PicBase, "LnkIESettings", {.At = Grid(34, 178, 112, 14)}, SavedLink("IE Settings")};
   forms::Image ImgIEPlug{PicBase, "ImgIEPlug", {.At = Grid(12, 197, 16, 16)}};
   controls::HyperLink LnkIePlug{
-      PicBase, "LnkIePlug", {.At = Grid(34, 197, 112, 16)}, SavedLink("IE/ Plugins / BHO")};
+      PicBase, "LnkIePlug", {.At = Grid(34, 198, 112, 14)}, SavedLink("IE/ Plugins / BHO")};
   forms::Image ImgCheckRepair{PicBase, "ImgCheckRepair", {.At = Grid(12, 217, 16, 16)}};
   controls::HyperLink lnkCheckAndRepair{
-      PicBase, "lnkCheckAndRepair", {.At = Grid(34, 217, 112, 16)}, SavedLink("Check and Repair")};
+      PicBase, "lnkCheckAndRepair", {.At = Grid(34, 218, 112, 14)}, SavedLink("Check and Repair")};
   forms::Label Label3{PicBase,
                       "Label3",
                       {.Caption = "Help and Statistics",
@@ -135,13 +135,13 @@ class frmMain : public forms::Form {
                        .Drawn = forms::Look::GroupHeading}};
   forms::Image ImgGraph{PicBase, "ImgGraph", {.At = Grid(12, 264, 16, 16)}};
   controls::HyperLink LnkGraph{
-      PicBase, "LnkGraph", {.At = Grid(34, 264, 112, 16)}, SavedLink("Graph")};
+      PicBase, "LnkGraph", {.At = Grid(34, 265, 112, 14)}, SavedLink("Graph")};
   forms::Image ImgDetails{PicBase, "ImgDetails", {.At = Grid(12, 284, 16, 16)}};
   controls::HyperLink LnkLog{
-      PicBase, "LnkLog", {.At = Grid(34, 284, 112, 16)}, SavedLink("Detail Log")};
+      PicBase, "LnkLog", {.At = Grid(34, 285, 112, 14)}, SavedLink("Detail Log")};
   forms::Image ImgHelp{PicBase, "ImgHelp", {.At = Grid(12, 304, 16, 16)}};
   controls::HyperLink LnkHelp{
-      PicBase, "LnkHelp", {.At = Grid(34, 304, 112, 16)}, SavedLink("Help")};
+      PicBase, "LnkHelp", {.At = Grid(34, 305, 112, 14)}, SavedLink("Help")};
   forms::Image imgbottom{PicBase, "imgbottom", {.At = Grid(11, 329, 128, 4)}};
 
   forms::Label lblVCP1{*this,

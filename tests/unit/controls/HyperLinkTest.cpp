@@ -1,0 +1,463 @@
+// The text link on the in-memory Windows: hovering, clicking, sizing, saving.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "controls/HyperLink.h"
+#include "forms/Form.h"
+#include "forms/headless/Toolkit.h"
+#include "forms/headless/User.h"
+#include "platform/memory/Process.h"
+#include "platform/memory/World.h"
+#include "text/RuntimeError.h"
+
+namespace vantrel::controls {
+namespace {
+
+constexpr forms::Place LinkPlace{1500, 1500, 1500, 300};
+
+struct LinkForm : forms::Form {
+  LinkForm(forms::Toolkit& toolkit, const PropertyBag& saved, bool underlined)
+      : Form(toolkit, "Form1", {.Caption = "Links", .Width = 6000, .Height = 6000}),
+        Area(*this, "Area",
+             {.At = {0, 0, 6000, 6000}, .TextFont = {.Bold = true, .Underline = underlined}}),
+        Link(Area, "Link", {.At = LinkPlace, .ToolTipText = "Given by the window"}, saved) {}
+
+  forms::Frame Area;
+  HyperLink Link;
+};
+
+class HyperLinks : public testing::Test {
+ protected:
+  void Make(const PropertyBag& saved = {}, bool underlinedContainer = false) {
+    form_ = std::make_unique<LinkForm>(toolkit_, saved, underlinedContainer);
+    Link().UsePlatform(platform_);
+    Link().MouseOver = [this](int, int, float, float) { events_.push_back("MouseOver"); };
+    Link().MouseOut = [this] { events_.push_back("MouseOut"); };
+    Link().Click = [this] { events_.push_back("Click"); };
+    Link().Change = [this] { events_.push_back("Change"); };
+    Link().PropertyChanged = [this](const std::string& name) { events_.push_back(name); };
+    form_->Show();
+  }
+
+  HyperLink& Link() { return form_->Link; }
+  forms::Label& Label() { return form_->Link.lblHyperlink; }
+
+  // The mouse comes over the link, and goes to the desktop's far corner.
+  void Enter() {
+    const auto place = world_.desktop.ScreenPlace(Link().WindowHandle());
+    world_.desktop.SetCursorPosition({place.left + 2, place.top + 2});
+    EXPECT_TRUE(user_.PointAt(Link(), 30, 30));
+  }
+  void GoAway() { world_.desktop.SetCursorPosition({3000, 3000}); }
+  void Poll() { world_.clock.Advance(HyperLink::PollInterval); }
+
+  platform::memory::World world_;
+  platform::memory::Process process_{world_};
+  platform::Platform platform_ = process_.Platform();
+  forms::headless::Toolkit toolkit_{world_.desktop, world_.clock, process_.Id()};
+  forms::headless::User user_{toolkit_};
+  std::vector<std::string> events_;
+  std::unique_ptr<LinkForm> form_;
+};
+
+using Events = std::vector<std::string>;
+
+TEST_F(HyperLinks, ANewLinkHasItsDefaults) {
+  Make();
+  EXPECT_EQ(Link().Caption(), "Hyperlink AX II");
+  EXPECT_TRUE(Link().Enabled());
+  EXPECT_EQ(Link().Alignment(), 0);
+  EXPECT_TRUE(Link().AutoSize());
+  EXPECT_EQ(Link().GetHyperLink(), HyperLink::SampleAddress);
+  EXPECT_EQ(Link().HoverColor(), 255U);
+  EXPECT_EQ(Link().Appearance(), 1);
+  EXPECT_EQ(Link().BorderStyle(), 0);
+  EXPECT_EQ(Link().ForeColor(), form_->Area.ForeColor());
+  EXPECT_EQ(Link().BackColor(), form_->Area.BackColor());
+  EXPECT_TRUE(Link().AutoToolTip());
+  EXPECT_TRUE(Link().SoundOn());
+  EXPECT_EQ(Link().SoundID(), 101);
+  EXPECT_TRUE(Link().MOUnderline());
+  EXPECT_TRUE(Link().MOPointer());
+  EXPECT_TRUE(Link().Font().Bold);
+  EXPECT_FALSE(Link().IsOver());
+  EXPECT_FALSE(Link().myTimer.Enabled());
+  EXPECT_EQ(Link().myTimer.Interval(), 50);
+}
+
+TEST_F(HyperLinks, TheTimerRunsOnlyWhileHovering) {
+  Make();
+  EXPECT_EQ(world_.clock.TimersOf(process_.Id()), 0U);
+  Enter();
+  EXPECT_EQ(world_.clock.TimersOf(process_.Id()), 1U);
+  GoAway();
+  Poll();
+  EXPECT_EQ(world_.clock.TimersOf(process_.Id()), 0U);
+}
+
+TEST_F(HyperLinks, EnteringShowsTheHoverStateAndTellsOnce) {
+  Make({{"forecolor", "&H00112233"}, {"hovercolor", "&H00445566"}});
+  Enter();
+  EXPECT_TRUE(Link().IsOver());
+  EXPECT_EQ(Label().MousePointer(), 99);
+  EXPECT_EQ(Link().SavedForeColor(), 0x112233U);
+  EXPECT_EQ(Link().ForeColor(), 0x445566U);
+  EXPECT_TRUE(Link().Font().Underline);
+  EXPECT_EQ(Label().ToolTipText(), HyperLink::SampleAddress);
+  EXPECT_TRUE(Link().myTimer.Enabled());
+  Enter();
+  EXPECT_EQ(events_, Events{"MouseOver"});
+}
+
+TEST_F(HyperLinks, MouseOverPassesOnWhereTheMouseIs) {
+  Make();
+  std::vector<float> at;
+  Link().MouseOver = [&at](int, int, float x, float y) { at = {x, y}; };
+  user_.PointAt(Link(), 45, 60);
+  EXPECT_EQ(at, (std::vector<float>{45, 60}));
+}
+
+TEST_F(HyperLinks, WhileTheMouseStaysNothingHappens) {
+  Make();
+  Enter();
+  world_.clock.Advance(1000);
+  EXPECT_TRUE(Link().IsOver());
+  EXPECT_EQ(events_, Events{"MouseOver"});
+}
+
+TEST_F(HyperLinks, LeavingIsNoticedByThePoll) {
+  Make({{"forecolor", "&H00112233"}});
+  Enter();
+  GoAway();
+  EXPECT_TRUE(Link().IsOver());
+  Poll();
+  EXPECT_FALSE(Link().IsOver());
+  EXPECT_EQ(Link().ForeColor(), 0x112233U);
+  EXPECT_FALSE(Link().Font().Underline);
+  EXPECT_FALSE(Link().myTimer.Enabled());
+  EXPECT_EQ(events_, (Events{"MouseOver", "MouseOut"}));
+}
+
+TEST_F(HyperLinks, ThePointerStaysAsItWasOnEntering) {
+  Make();
+  Enter();
+  GoAway();
+  Poll();
+  EXPECT_EQ(Label().MousePointer(), 99);
+}
+
+TEST_F(HyperLinks, AWindowOnTopOfTheLinkCountsAsOutside) {
+  Make();
+  Enter();
+  const auto cover = world_.desktop.MakeWindow(1, 0, "Another program");
+  world_.desktop.SetPlace(cover, {0, 0, 2000, 2000});
+  world_.desktop.SetVisible(cover, true);
+  Poll();
+  EXPECT_FALSE(Link().IsOver());
+}
+
+TEST_F(HyperLinks, WithoutItsFlagsAHoverChangesTheColourOnly) {
+  Make({{"mounderline", "0"}, {"mopointer", "0"}});
+  Enter();
+  EXPECT_EQ(Label().MousePointer(), 0);
+  EXPECT_FALSE(Link().Font().Underline);
+  EXPECT_EQ(Link().ForeColor(), Link().HoverColor());
+}
+
+TEST_F(HyperLinks, AnUnderlinedContainerKeepsTheLinkUnderlined) {
+  Make({}, true);
+  Enter();
+  GoAway();
+  Poll();
+  EXPECT_TRUE(Link().Font().Underline);
+}
+
+TEST_F(HyperLinks, AHoverColourSetDuringAHoverTakesEffectAtTheNextEntry) {
+  Make();
+  Enter();
+  Link().SetHoverColor(0x123456);
+  EXPECT_EQ(Link().ForeColor(), 255U);
+  GoAway();
+  Poll();
+  Enter();
+  EXPECT_EQ(Link().ForeColor(), 0x123456U);
+}
+
+TEST_F(HyperLinks, TheToolTipChangesOnlyAtTheNextEntry) {
+  Make();
+  Enter();
+  Link().SetHyperLink("http://elsewhere.example/");
+  EXPECT_EQ(Label().ToolTipText(), HyperLink::SampleAddress);
+  GoAway();
+  Poll();
+  Enter();
+  EXPECT_EQ(Label().ToolTipText(), "http://elsewhere.example/");
+}
+
+TEST_F(HyperLinks, WithoutAutoToolTipTheWindowsToolTipShows) {
+  Make({{"autotooltip", "0"}});
+  Enter();
+  EXPECT_EQ(Label().ToolTipText(), "Given by the window");
+}
+
+TEST_F(HyperLinks, AnErrorInMouseOutIsIgnored) {
+  Make();
+  Link().MouseOut = [] { throw text::RuntimeError(text::ErrorNumber::TypeMismatch); };
+  Enter();
+  EXPECT_NO_THROW(Link().MouseLeave());
+  EXPECT_FALSE(Link().IsOver());
+}
+
+TEST_F(HyperLinks, AClickOpensTheAddressUnderTheHourglassThenTells) {
+  Make();
+  toolkit_.SetScreenPointer(7);
+  std::vector<std::string> lines;
+  toolkit_.Trace = [&lines](const std::string& line) { lines.push_back(line); };
+  Link().lblHyperlink.UserClick();
+  ASSERT_EQ(world_.openedDocuments.size(), 1U);
+  const auto& opened = world_.openedDocuments[0];
+  EXPECT_EQ(opened.owner, 0U);
+  EXPECT_EQ(opened.verb, "Open");
+  EXPECT_EQ(opened.file, HyperLink::SampleAddress);
+  EXPECT_EQ(opened.parameters, "");
+  EXPECT_EQ(opened.directory, "");
+  EXPECT_EQ(opened.showCommand, 1);
+  EXPECT_EQ(lines, (Events{"Screen MousePointer=11", "Screen MousePointer=7"}));
+  EXPECT_EQ(events_, Events{"Click"});
+}
+
+TEST_F(HyperLinks, WithoutAnAddressAClickOnlyTells) {
+  Make({{"hyperlink", ""}});
+  std::vector<std::string> lines;
+  toolkit_.Trace = [&lines](const std::string& line) { lines.push_back(line); };
+  Link().lblHyperlink.UserClick();
+  EXPECT_TRUE(world_.openedDocuments.empty());
+  EXPECT_TRUE(lines.empty());
+  EXPECT_EQ(events_, Events{"Click"});
+}
+
+TEST_F(HyperLinks, AFailedOpeningGoesUnnoticed) {
+  Make();
+  process_.Faults().FailEvery("ShellExecuteA", 2);
+  Link().lblHyperlink.UserClick();
+  EXPECT_EQ(toolkit_.ScreenPointer(), 0);
+  EXPECT_EQ(events_, Events{"Click"});
+}
+
+TEST_F(HyperLinks, AnErrorOfTheClicksHandlerIsIgnored) {
+  Make({{"hyperlink", ""}});
+  Link().Click = [] { throw text::RuntimeError(text::ErrorNumber::FileNotFound); };
+  EXPECT_NO_THROW(Link().UserClick());
+}
+
+TEST_F(HyperLinks, TheEndOfTheProgramPassesThroughAClick) {
+  Make({{"hyperlink", ""}});
+  Link().Click = [this] { toolkit_.End(); };
+  EXPECT_THROW(Link().UserClick(), forms::EndProgram);
+}
+
+TEST_F(HyperLinks, MousePressesArePassedOn) {
+  Make({{"hyperlink", ""}});
+  Link().MouseDown = [this](int button, int, float, float) {
+    events_.push_back("MouseDown " + std::to_string(button));
+  };
+  Link().MouseUp = [this](int button, int, float, float) {
+    events_.push_back("MouseUp " + std::to_string(button));
+  };
+  EXPECT_TRUE(user_.Click(Link()));
+  EXPECT_EQ(events_, (Events{"MouseDown 1", "MouseUp 1", "Click"}));
+}
+
+TEST_F(HyperLinks, AKeyPressDoesWhatAClickDoes) {
+  Make({{"hyperlink", ""}});
+  Link().KeyPressed();
+  EXPECT_EQ(events_, Events{"Click"});
+  EXPECT_TRUE(Link().IsTabStop());
+}
+
+TEST_F(HyperLinks, ADisabledLinkIsNotClicked) {
+  Make({{"hyperlink", ""}});
+  Link().SetEnabled(false);
+  events_.clear();
+  Link().UserClick();
+  Link().KeyPressed();
+  EXPECT_FALSE(user_.Click(Link()));
+  EXPECT_TRUE(events_.empty());
+}
+
+TEST_F(HyperLinks, SettersReportTheirChange) {
+  Make();
+  Link().SetFont({.Size = 9});
+  Link().SetEnabled(true);
+  Link().SetAlignment(2);
+  Link().SetAutoSize(false);
+  Link().SetHyperLink("");
+  Link().SetHoverColor(1);
+  Link().SetAppearance(0);
+  Link().SetBorderStyle(1);
+  Link().SetForeColor(2);
+  Link().SetBackColor(3);
+  Link().SetAutoToolTip(false);
+  Link().SetSoundOn(false);
+  Link().SetSoundID(102);
+  Link().SetMOUnderline(false);
+  Link().SetMOPointer(false);
+  EXPECT_EQ(events_, (Events{"Font", "Enabled", "Alignment", "AutoSize", "HyperLink", "HoverColor",
+                             "Appearance", "BorderStyle", "ForeColor", "BackColor", "AutoToolTip",
+                             "SoundOn", "SoundID", "MOUnderline", "MOPointer"}));
+  EXPECT_EQ(Link().Font().Size, 9);
+  EXPECT_EQ(Label().Alignment(), forms::Align::Center);
+  EXPECT_EQ(Link().SoundID(), 102);
+}
+
+TEST_F(HyperLinks, ANewCaptionTellsTheChangeOfTextFirst) {
+  Make();
+  Link().SetCaption("Elsewhere");
+  EXPECT_EQ(events_, (Events{"Change", "Caption"}));
+  EXPECT_EQ(Label().Caption(), "Elsewhere");
+  EXPECT_EQ(Link().WindowText(), "Elsewhere");
+}
+
+TEST_F(HyperLinks, ATextSetFromOutsideIsTheCaption) {
+  Make();
+  world_.desktop.SendText(Link().WindowHandle(), platform::WmSetText, 0, "From outside");
+  EXPECT_EQ(Link().Caption(), "From outside");
+}
+
+TEST_F(HyperLinks, AnAddressReadsBackTrimmed) {
+  Make();
+  Link().SetHyperLink("  http://www.example.com/x y  ");
+  EXPECT_EQ(Link().GetHyperLink(), "http://www.example.com/x y");
+}
+
+TEST_F(HyperLinks, AnUnknownAlignmentIsRefused) {
+  Make();
+  EXPECT_THROW(Link().SetAlignment(3), text::RuntimeError);
+  EXPECT_THROW(Link().SetAlignment(-1), text::RuntimeError);
+}
+
+TEST_F(HyperLinks, WithAutoSizeTheLinkTakesTheLabelsSize) {
+  Make();
+  Label().Move({0, 0, 900, 210});
+  Link().SetCaption("Shorter");
+  EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 900, 210}));
+}
+
+TEST_F(HyperLinks, WithoutAutoSizeTheLabelIsCutAtTheLinksSize) {
+  Make({{"autosize", "0"}});
+  Label().Move({0, 0, 9000, 210});
+  Link().SetCaption("A caption that is far too long for the room that the link has been given");
+  EXPECT_EQ(Label().At(), (forms::Place{0, 0, LinkPlace.Width, LinkPlace.Height}));
+  EXPECT_EQ(Link().At(), LinkPlace);
+}
+
+TEST_F(HyperLinks, AChangeOfSizeIsTakenOver) {
+  Make({{"autosize", "0"}});
+  Link().Move({0, 0, 750, 450});
+  EXPECT_EQ(Label().At(), (forms::Place{0, 0, 750, 450}));
+}
+
+TEST_F(HyperLinks, AboutDoesNothing) {
+  Make();
+  Link().About();
+  EXPECT_TRUE(events_.empty());
+}
+
+TEST_F(HyperLinks, WithoutAPlatformTheMouseCountsAsGone) {
+  LinkForm form(toolkit_, {}, false);
+  EXPECT_FALSE(form.Link.IsMouseOver());
+  EXPECT_NO_THROW(form.Link.UserClick());
+}
+
+// What differs from the defaults is saved, and nothing else but the extent.
+Events Saved(const HyperLink& link) {
+  PropertyBag bag;
+  link.WriteProperties(bag);
+  Events saved;
+  for (const auto& [name, text] : bag.Entries()) saved.push_back(name + "=" + text);
+  return saved;
+}
+
+TEST_F(HyperLinks, ANewLinkSavesItsExtentAndItsCaption) {
+  Make();
+  EXPECT_EQ(Saved(Link()), (Events{"_extentx=1500", "_extenty=300", "caption=Hyperlink AX II"}));
+}
+
+TEST_F(HyperLinks, TheCaptionLeftOutIsNotTheOneThatAMissingOneReadsAs) {
+  Make({{"caption", "Hyperlink AX"}});
+  EXPECT_EQ(Saved(Link()), (Events{"_extentx=1500", "_extenty=300"}));
+}
+
+TEST_F(HyperLinks, EveryPropertyIsSavedAndRead) {
+  const PropertyBag all{{"font", "Arial;95;-1;-1"},
+                        {"enabled", "0"},
+                        {"caption", "All"},
+                        {"alignment", "2"},
+                        {"autosize", "0"},
+                        {"hyperlink", ""},
+                        {"hovercolor", "&H80000002"},
+                        {"appearance", "0"},
+                        {"borderstyle", "1"},
+                        {"forecolor", "&H8000000D"},
+                        {"backcolor", "&H00FEECDD"},
+                        {"autotooltip", "0"},
+                        {"soundon", "0"},
+                        {"soundid", "-7"},
+                        {"mounderline", "0"},
+                        {"mopointer", "0"}};
+  Make(all);
+  Events expected{"_extentx=1500", "_extenty=300"};
+  for (const auto& [name, text] : all.Entries()) expected.push_back(name + "=" + text);
+  EXPECT_EQ(Saved(Link()), expected);
+  EXPECT_STREQ(Link().Font().Name, "Arial");
+  EXPECT_EQ(Link().Font().Size, 9.5);
+  EXPECT_EQ(Link().HoverColor(), forms::SystemColor(2));
+  EXPECT_EQ(Link().ForeColor(), forms::SystemColor(13));
+}
+
+TEST_F(HyperLinks, NamesAreFoundInAnyCaseAndOrder) {
+  Make({{"SoundID", "5"}, {"HOVERCOLOR", "16711680"}, {"Caption", "Mixed"}});
+  EXPECT_EQ(Link().Caption(), "Mixed");
+  EXPECT_EQ(Link().HoverColor(), 0xFF0000U);
+  EXPECT_EQ(Link().SoundID(), 5);
+}
+
+TEST_F(HyperLinks, ReadingReportsNoChangeOfProperties) {
+  Make();
+  Link().ReadProperties({{"hyperlink", "http://read.example/"}});
+  EXPECT_TRUE(events_.empty());
+  EXPECT_EQ(Link().GetHyperLink(), "http://read.example/");
+}
+
+TEST_F(HyperLinks, ReadingResetsWhatIsMissing) {
+  Make({{"caption", "Told"}, {"soundid", "5"}});
+  Link().ReadProperties({});
+  EXPECT_EQ(Link().Caption(), "Hyperlink AX II");
+  EXPECT_EQ(Link().SoundID(), 101);
+}
+
+TEST_F(HyperLinks, WhatIsNoValueIsRefused) {
+  Make();
+  for (const PropertyBag& bad :
+       {PropertyBag{{"soundid", "many"}}, PropertyBag{{"soundid", "40000"}},
+        PropertyBag{{"alignment", "9"}}, PropertyBag{{"forecolor", "&Hxyz"}},
+        PropertyBag{{"font", "Arial"}}, PropertyBag{{"enabled", ""}}}) {
+    EXPECT_THROW(Link().ReadProperties(bad), text::RuntimeError) << bad.Entries()[0].Name;
+  }
+}
+
+TEST(PropertyBags, KeepOneTextAName) {
+  PropertyBag bag;
+  bag.WriteProperty("Caption", "One", "");
+  bag.WriteProperty("caption", "Two", "");
+  bag.WriteProperty("caption", "", "");
+  ASSERT_EQ(bag.Entries().size(), 1U);
+  EXPECT_EQ(bag.ReadProperty("CAPTION", "none"), "Two");
+  EXPECT_EQ(bag.ReadProperty("colour", "none"), "none");
+}
+
+}  // namespace
+}  // namespace vantrel::controls
