@@ -1,0 +1,482 @@
+// First run, saves and loads of the settings tree, on windows that have no behaviour of their own
+// but the one handler that a first run relies on.
+#include <gmock/gmock.h>
+
+#include "settings/FirstRun.h"
+#include "settings/Load.h"
+#include "settings/Schema.h"
+#include "settings/bmdlSave.h"
+#include "support/ProgramFixture.h"
+
+namespace vantrel::settings {
+namespace {
+
+using platform::HKeyCurrentUser;
+using platform::memory::Refusal;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+using text::ErrorNumber;
+using text::RuntimeError;
+
+std::string Flag(const std::string& name, int value) {
+  return "Block Settings \"" + name + "\" 4 " + std::to_string(value) + " 0 0 0 -> 0";
+}
+std::string GeneralFlag(const std::string& name, int value) {
+  return "Settings \"" + name + "\" 4 " + std::to_string(value) + " 0 0 0 -> 0";
+}
+
+class Settings : public support::ProgramFixture {
+ protected:
+  Settings() {
+    program.windows.FrmFrameSettings.OnMade([this](windows::FrmFrameSettings& panel) {
+      panel.chkGLog.Click = [this] { SaveBlockSettingsGuarded(program); };
+    });
+  }
+
+  // What a save of the block settings writes with all controls at their design states.
+  static std::vector<std::string> DesignSave(int keepaLog, const std::string& sound,
+                                             int disabled = 1) {
+    return {Flag("BpID", 1),
+            Flag("Popup", 1),
+            Flag("DHTML", 1),
+            Flag("WebDialog", 1),
+            Flag("Banner", 1),
+            Flag("Flash", 1),
+            Flag("Adv", 0),
+            Flag("DialogBox", 1),
+            Flag("KeepaLog", keepaLog),
+            Flag("ShowNotification", 0),
+            Flag("ShowSound", 0),
+            Flag("ShowPH", 0),
+            Flag("ShowPHF", 0),
+            "Block Settings \"NSounds\" 1 \"" + sound + "\" -> 0",
+            Flag("GDisabled", disabled),
+            Flag("Spy", 1)};
+  }
+
+  // A whole tree as a first run leaves it, with the marker that the first general save adds.
+  void StoreTree() {
+    CheckAndCreateRegitry(program);
+    SetNumber("Settings", "BpID", 1);
+    program.LoadingSettings = true;
+    program.windows.FrmFrameSettings->chkGLog.SetValue(0);
+    program.LoadingSettings = false;
+    process.Trace().Clear();
+  }
+
+  void Load() {
+    program.LoadingSettings = true;
+    LoadBlockSettings(program);
+    LoadGeneralSettings(program);
+    program.LoadingSettings = false;
+  }
+  ErrorNumber LoadError() {
+    try {
+      Load();
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return {};
+  }
+
+  windows::FrmFrameBlockPreferences& Block() { return *program.windows.FrmFrameBlockPreferences; }
+  windows::FrmFrameSettings& General() { return *program.windows.FrmFrameSettings; }
+  windows::FrmFrameNotification& Notify() { return *program.windows.FrmFrameNotification; }
+  windows::FrmFrameMain& Welcome() { return *program.windows.FrmFrameMain; }
+};
+
+TEST_F(Settings, FirstRunOnAnEmptyStoreMakesTheWholeTree) {
+  program.TotalBlocked = 7;
+  CheckAndCreateRegitry(program);
+
+  const char* const ones[] = {"BpId",  "Popup",     "DHTML",    "WebDialog", "Banner",
+                              "Flash", "DialogBox", "KeepaLog", "GDisabled", "Spy"};
+  for (const char* name : ones) EXPECT_EQ(Number("Block Settings", name), 1U) << name;
+  const char* const zeros[] = {"Adv", "ShowNotification", "ShowSound", "ShowPH", "ShowPHF"};
+  for (const char* name : zeros) EXPECT_EQ(Number("Block Settings", name), 0U) << name;
+  EXPECT_EQ(Text("Block Settings", "NSounds"), "Alert");
+  EXPECT_EQ(world.registry.Values(HKeyCurrentUser, Tree("Block Settings")).size(), 16U);
+
+  EXPECT_EQ(Number("Settings", "BpId"), std::nullopt);
+  EXPECT_EQ(Number("Settings", "HideSystem"), 0U);
+  EXPECT_EQ(Number("Settings", "StartWithWindows"), 1U);
+  EXPECT_EQ(Number("Settings", "CheckUpdates"), 0U);
+  EXPECT_EQ(Number("Settings", "ShowBrowser"), 1U);
+  EXPECT_EQ(Number("Settings", "Minimize"), 0U);
+  EXPECT_EQ(world.registry.Values(HKeyCurrentUser, Tree("Settings")).size(), 5U);
+
+  for (const char* name : {"Popup", "DHTML", "WebDialog", "BannerAds", "Flash"}) {
+    EXPECT_EQ(Number("Block Log", name), 0U) << name;
+  }
+  EXPECT_EQ(program.TotalBlocked, 0);
+  EXPECT_EQ(Text("Toolbar Settings", "Toolbar Name"), "Vantrel");
+  EXPECT_EQ(Text("Toolbar Settings", "Toolbar Settings"),
+            "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19");
+  EXPECT_EQ(world.registry.Subkeys(HKeyCurrentUser, "Software\\Qorvel Softwares").size(), 4U);
+  EXPECT_THAT(world.registry.Values(HKeyCurrentUser, "Software\\Qorvel Softwares"), IsEmpty());
+  EXPECT_EQ(process.OpenKeys(), 0U);
+}
+
+TEST_F(Settings, FirstRunWritesInItsOrderWithAFullSaveInTheMiddle) {
+  CheckAndCreateRegitry(program);
+  std::vector<std::string> expected = DesignSave(1, "");
+  expected.resize(9);  // up to KeepaLog, whose tick saves the whole key
+  for (const std::string& write : DesignSave(1, "")) expected.push_back(write);
+  const std::vector<std::string> rest = DesignSave(1, "Alert");
+  expected.insert(expected.end(), rest.begin() + 9, rest.end());
+  for (const char* name : {"Popup", "DHTML", "WebDialog", "BannerAds", "Flash"}) {
+    expected.push_back("Block Log \"" + std::string(name) + "\" 4 0 0 0 0 -> 0");
+  }
+  for (const auto& [name, value] :
+       {std::pair("HideSystem", 0), std::pair("StartWithWindows", 1), std::pair("CheckUpdates", 0),
+        std::pair("ShowBrowser", 1), std::pair("Minimize", 0)}) {
+    expected.push_back(GeneralFlag(name, value));
+  }
+  expected.emplace_back("Toolbar Settings \"Toolbar Name\" 1 \"Vantrel\" -> 0");
+  expected.emplace_back(
+      "Toolbar Settings \"Toolbar Settings\" 1 "
+      "\"1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19\" -> 0");
+  EXPECT_THAT(Writes(), ElementsAreArray(expected));
+  EXPECT_EQ(General().chkGLog.Value(), 1);
+}
+
+TEST_F(Settings, FirstRunCreatesEachKeyBehindItsTest) {
+  CheckAndCreateRegitry(program);
+  std::vector<std::string> created = process.Trace().LinesOf("RegCreateKeyExA");
+  ASSERT_EQ(created.size(), 5U);
+  EXPECT_EQ(created[0],
+            "RegCreateKeyExA HKCU\\Software\\Qorvel Softwares 0xF003F with a security record -> 0");
+  EXPECT_EQ(process.Trace().Names().front(), "RegCreateKeyExA");
+}
+
+TEST_F(Settings, FirstRunOverAWholeTreeOnlyLooks) {
+  StoreTree();
+  CheckAndCreateRegitry(program);
+  EXPECT_THAT(Writes(), IsEmpty());
+  EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), testing::SizeIs(1));
+}
+
+TEST_F(Settings, FirstRunWhileBlockingWritesThatItIsNotDisabled) {
+  program.BlockingActive = true;
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Block Settings", "GDisabled"), 0U);
+}
+
+TEST_F(Settings, ABlockLogWithoutPopupsIsReset) {
+  StoreTree();
+  SetNumber("Block Log", "Flash", 12);
+  RemoveValue("Block Log", "Popup");
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Block Log", "Popup"), 0U);
+  EXPECT_EQ(Number("Block Log", "Flash"), 0U);
+}
+
+TEST_F(Settings, ABlockLogWithPopupsIsLeftAlone) {
+  StoreTree();
+  SetNumber("Block Log", "Popup", 5);
+  RemoveValue("Block Log", "Flash");
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Block Log", "Popup"), 5U);
+  EXPECT_EQ(Number("Block Log", "Flash"), std::nullopt);
+}
+
+TEST_F(Settings, WithoutItsMarkerTheBlockSettingsAreRewrittenFromTheDesign) {
+  StoreTree();
+  SetNumber("Block Settings", "Popup", 0);
+  SetText("Block Settings", "NSounds", "pop");
+  RemoveValue("Block Settings", "BpId");
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Block Settings", "BpId"), 1U);
+  EXPECT_EQ(Number("Block Settings", "Popup"), 1U);
+  EXPECT_EQ(Text("Block Settings", "NSounds"), "Alert");
+}
+
+TEST_F(Settings, AMarkerOfAnotherTypeCountsAsMissing) {
+  StoreTree();
+  world.registry.Set(HKeyCurrentUser, Tree("Settings"), "HideSystem", platform::RegBinary, "x");
+  SetNumber("Settings", "Minimize", 1);
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Settings", "Minimize"), 0U);
+  EXPECT_EQ(Number("Settings", "BpId"), 1U);
+}
+
+TEST_F(Settings, AMarkerOfNoBytesIsAnInvalidArgument) {
+  StoreTree();
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  EXPECT_THROW(CheckAndCreateRegitry(program), RuntimeError);
+  EXPECT_EQ(process.OpenKeys(), 0U);
+}
+
+TEST_F(Settings, AStoreThatCannotBeWrittenLosesTheSettingsSilently) {
+  world.registry.Refuse(HKeyCurrentUser, "", Refusal::Write);
+  CheckAndCreateRegitry(program);
+  SaveBlockSettings(program);
+  SaveGeneralSettings(program);
+  EXPECT_FALSE(world.registry.HasKey(HKeyCurrentUser, "Software\\Qorvel Softwares"));
+  EXPECT_THAT(process.Boxes(), IsEmpty());
+  EXPECT_EQ(General().chkGLog.Value(), 1);
+}
+
+TEST_F(Settings, ASaveRewritesTheWholeKeyInItsOrder) {
+  StoreTree();
+  Notify().cmbsound.SetText("pop");
+  SaveBlockSettings(program);
+  EXPECT_THAT(Writes(), ElementsAreArray(DesignSave(0, "pop")));
+  EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), IsEmpty());
+}
+
+TEST_F(Settings, ASaveCreatesTheKeyWhereTheMarkerIsMissing) {
+  SaveBlockSettings(program);
+  EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), testing::SizeIs(1));
+  EXPECT_EQ(Number("Block Settings", "BpId"), 1U);
+  EXPECT_EQ(world.registry.Values(HKeyCurrentUser, Tree("Block Settings"))[0].name, "BpID");
+}
+
+TEST_F(Settings, ASaveTakesEveryBoxAndTheActiveFlag) {
+  program.BlockingActive = true;
+  Block().chkBPopup.SetValue(0);
+  Block().chkBDhtml.SetValue(2);
+  Block().chkBAdv.SetValue(1);
+  Block().chkBSpyware.SetValue(0);
+  Notify().chkNW.SetValue(1);
+  Notify().chkNS.SetValue(1);
+  Notify().chkNPH.SetValue(1);
+  Notify().chkNPHF.SetValue(1);
+  General().chkGLog.SetValue(1);
+  SaveBlockSettings(program);
+  EXPECT_EQ(Number("Block Settings", "Popup"), 0U);
+  EXPECT_EQ(Number("Block Settings", "DHTML"), 2U);
+  EXPECT_EQ(Number("Block Settings", "WebDialog"), 1U);
+  EXPECT_EQ(Number("Block Settings", "Adv"), 1U);
+  EXPECT_EQ(Number("Block Settings", "Spy"), 0U);
+  EXPECT_EQ(Number("Block Settings", "KeepaLog"), 1U);
+  EXPECT_EQ(Number("Block Settings", "ShowNotification"), 1U);
+  EXPECT_EQ(Number("Block Settings", "ShowSound"), 1U);
+  EXPECT_EQ(Number("Block Settings", "ShowPH"), 1U);
+  EXPECT_EQ(Number("Block Settings", "ShowPHF"), 1U);
+  EXPECT_EQ(Number("Block Settings", "GDisabled"), 0U);
+}
+
+TEST_F(Settings, ASoundStoredAsANumberStaysOne) {
+  StoreTree();
+  SetNumber("Block Settings", "NSounds", 77);
+  Notify().cmbsound.SetText("pop");
+  SaveBlockSettings(program);
+  EXPECT_EQ(Number("Block Settings", "NSounds"), 0U);
+}
+
+TEST_F(Settings, ASaveWithoutASoundStoresNoBytes) {
+  SaveBlockSettings(program);
+  const auto sound = world.registry.Get(HKeyCurrentUser, Tree("Block Settings"), "NSounds");
+  ASSERT_TRUE(sound);
+  EXPECT_EQ(sound->data, "");
+}
+
+TEST_F(Settings, AGeneralSaveWritesTheMarkerAndFiveFlags) {
+  StoreTree();
+  RemoveValue("Settings", "BpId");
+  General().chkGHideSystray.SetValue(1);
+  Welcome().ChkMinimize.SetValue(1);
+  SaveGeneralSettings(program);
+  EXPECT_THAT(Writes(),
+              ElementsAre(GeneralFlag("BpID", 1), GeneralFlag("HideSystem", 1),
+                          GeneralFlag("StartWithWindows", 0), GeneralFlag("CheckUpdates", 0),
+                          GeneralFlag("ShowBrowser", 1), GeneralFlag("Minimize", 1)));
+}
+
+TEST_F(Settings, GuardedSavesStandStillWhileSettingsAreLoaded) {
+  program.LoadingSettings = true;
+  EXPECT_TRUE(SaveBlockSettingsGuarded(program));
+  EXPECT_TRUE(SaveGeneralSettingsGuarded(program));
+  SaveNotificationGuarded(program);
+  EXPECT_THAT(process.Trace().Names(), IsEmpty());
+  SaveBlockSettings(program);
+  EXPECT_EQ(BlockSaves(), 1);
+}
+
+TEST_F(Settings, AGuardedSaveThatFailsShowsTheInformationBox) {
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  world.registry.Set(HKeyCurrentUser, Tree("Settings"), "BpId", platform::RegSz, "");
+  EXPECT_FALSE(SaveBlockSettingsGuarded(program));
+  EXPECT_FALSE(SaveGeneralSettingsGuarded(program));
+  SaveNotificationGuarded(program);
+  ASSERT_EQ(process.Boxes().size(), 3U);
+  for (const auto& box : process.Boxes()) {
+    EXPECT_EQ(box.text, "Error occured: Invalid procedure call or argument");
+    EXPECT_EQ(box.title, "Vantrel");
+    EXPECT_EQ(box.style, platform::StyleInformation);
+  }
+  EXPECT_THAT(Writes(), IsEmpty());
+}
+
+TEST_F(Settings, ALoadWithoutTheMarkerDoesNothing) {
+  SetNumber("Block Settings", "Popup", 0);
+  SetNumber("Settings", "HideSystem", 1);
+  LoadBlockSettings(program);
+  LoadGeneralSettings(program);
+  EXPECT_EQ(Block().chkBPopup.Value(), 1);
+  EXPECT_EQ(General().chkGHideSystray.Value(), 0);
+  EXPECT_THAT(process.Trace().LinesOf("RegQueryValueExA"), testing::SizeIs(2));
+}
+
+TEST_F(Settings, ALoadFillsEveryControl) {
+  StoreTree();
+  const char* const flags[] = {"Popup", "DHTML",     "WebDialog", "Banner",
+                               "Flash", "DialogBox", "Spy"};
+  for (const char* name : flags) SetNumber("Block Settings", name, 0);
+  const char* const ticked[] = {"Adv",       "KeepaLog", "ShowNotification",
+                                "ShowSound", "ShowPH",   "ShowPHF"};
+  for (const char* name : ticked) SetNumber("Block Settings", name, 1);
+  program.LoadingSettings = true;
+  LoadBlockSettings(program);
+  for (auto* box :
+       {&Block().chkBPopup, &Block().chkBDhtml, &Block().chkBDialog, &Block().chkBBanner,
+        &Block().chkBFlash, &Block().chkBDialogBox, &Block().chkBSpyware}) {
+    EXPECT_EQ(box->Value(), 0) << box->Name();
+  }
+  for (auto* box : {&Block().chkBAdv, &General().chkGLog, &Notify().chkNW, &Notify().chkNS,
+                    &Notify().chkNPH, &Notify().chkNPHF}) {
+    EXPECT_EQ(box->Value(), 1) << box->Name();
+  }
+  EXPECT_EQ(Notify().cmbsound.Text(), "alert");
+  EXPECT_THAT(Writes(), IsEmpty());
+}
+
+TEST_F(Settings, ALoadReadsInItsOrder) {
+  StoreTree();
+  Load();
+  std::vector<std::string> names;
+  for (const std::string& line : process.Trace().LinesOf("RegQueryValueExA")) {
+    const auto from = line.find('"') + 1;
+    names.push_back(line.substr(from, line.find('"', from) - from));
+  }
+  EXPECT_THAT(names, ElementsAre("BpId", "Popup", "DHTML", "WebDialog", "Banner", "Flash", "Adv",
+                                 "DialogBox", "KeepaLog", "ShowNotification", "Nsounds",
+                                 "ShowSound", "ShowPH", "ShowPHF", "Spy", "BpId", "HideSystem",
+                                 "StartWithWindows", "CheckUpdates", "ShowBrowser", "Minimize"));
+}
+
+TEST_F(Settings, ASoundNameAloneDoesNotSwitchTheSoundOn) {
+  StoreTree();
+  SetText("Block Settings", "NSounds", "POP2");
+  std::vector<int> states;
+  Notify().chkNS.Click = [&] { states.push_back(Notify().chkNS.Value()); };
+  Load();
+  EXPECT_EQ(Notify().cmbsound.Text(), "pop2");
+  EXPECT_THAT(states, ElementsAre(1, 0)) << "ticked by the name, then cleared by the switch";
+}
+
+TEST_F(Settings, AMissingSoundNameClearsTheSwitchUntilTheSwitchIsRead) {
+  StoreTree();
+  RemoveValue("Block Settings", "NSounds");
+  SetNumber("Block Settings", "ShowSound", 1);
+  Load();
+  EXPECT_EQ(Notify().chkNS.Value(), 1);
+  EXPECT_EQ(Notify().cmbsound.ListIndex(), -1);
+}
+
+TEST_F(Settings, OddSoundNamesSelectNothing) {
+  StoreTree();
+  for (const std::string& name : {std::string("no such sound"), std::string(300, 'x')}) {
+    SetText("Block Settings", "NSounds", name);
+    Load();
+    EXPECT_EQ(Notify().cmbsound.ListIndex(), -1);
+  }
+  SetNumber("Block Settings", "NSounds", 12);
+  Load();
+  EXPECT_EQ(Notify().cmbsound.ListIndex(), -1);
+}
+
+struct BrokenValue {
+  const char* Name;
+  std::uint32_t Type;
+  std::string Data;
+  ErrorNumber Error;
+};
+
+class BrokenStore : public Settings, public testing::WithParamInterface<BrokenValue> {};
+
+TEST_P(BrokenStore, EndsTheLoadAtTheBrokenValue) {
+  StoreTree();
+  for (const char* name : {"Popup", "Banner", "Spy"}) SetNumber("Block Settings", name, 0);
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "Banner", GetParam().Type,
+                     GetParam().Data);
+  EXPECT_EQ(LoadError(), GetParam().Error);
+  EXPECT_EQ(Block().chkBPopup.Value(), 0) << "before the broken one";
+  EXPECT_EQ(Block().chkBBanner.Value(), 1);
+  EXPECT_EQ(Block().chkBSpyware.Value(), 1) << "behind the broken one";
+  EXPECT_EQ(process.OpenKeys(), 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , BrokenStore,
+    testing::Values(
+        BrokenValue{"no number", platform::RegSz, "Alert", ErrorNumber::TypeMismatch},
+        BrokenValue{"empty text", platform::RegSz, std::string(1, '\0'), ErrorNumber::TypeMismatch},
+        BrokenValue{"other type", platform::RegBinary, "1234", ErrorNumber::TypeMismatch},
+        BrokenValue{"too long", platform::RegSz, std::string(2000, '1'), ErrorNumber::TypeMismatch},
+        BrokenValue{"no bytes", platform::RegDword, "", ErrorNumber::InvalidProcedureCall},
+        BrokenValue{"no state", platform::RegDword, std::string("\3\0\0\0", 4),
+                    ErrorNumber::InvalidPropertyValue},
+        BrokenValue{"negative", platform::RegSz, "-1", ErrorNumber::InvalidPropertyValue},
+        BrokenValue{"too large", platform::RegDword, "\xFF\xFF\xFF\xFF", ErrorNumber::Overflow},
+        BrokenValue{"just too large", platform::RegSz, "32768", ErrorNumber::Overflow}),
+    [](const auto& info) {
+      std::string name = info.param.Name;
+      std::replace(name.begin(), name.end(), ' ', '_');
+      return name;
+    });
+
+TEST_F(Settings, AMissingLastValueEndsTheLoadThere) {
+  StoreTree();
+  SetNumber("Block Settings", "ShowPHF", 1);
+  RemoveValue("Block Settings", "Spy");
+  EXPECT_EQ(LoadError(), ErrorNumber::TypeMismatch);
+  EXPECT_EQ(Notify().chkNPHF.Value(), 1);
+}
+
+TEST_F(Settings, ASoundOfNoBytesEndsTheLoadBeforeTheSound) {
+  StoreTree();
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "NSounds", platform::RegSz, "");
+  SetNumber("Block Settings", "ShowNotification", 1);
+  SetNumber("Block Settings", "ShowSound", 1);
+  EXPECT_EQ(LoadError(), ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(Notify().chkNW.Value(), 1);
+  EXPECT_EQ(Notify().chkNS.Value(), 0);
+}
+
+TEST_F(Settings, AFlagStoredAsTextOrAsTwoIsTaken) {
+  StoreTree();
+  SetText("Block Settings", "Popup", " 0 ");
+  SetNumber("Block Settings", "DHTML", 2);
+  Load();
+  EXPECT_EQ(Block().chkBPopup.Value(), 0);
+  EXPECT_EQ(Block().chkBDhtml.Value(), 2);
+}
+
+TEST_F(Settings, AGeneralLoadFillsItsFiveBoxes) {
+  StoreTree();
+  for (const char* name : {"HideSystem", "StartWithWindows", "CheckUpdates", "Minimize"}) {
+    SetNumber("Settings", name, 1);
+  }
+  SetNumber("Settings", "ShowBrowser", 0);
+  Load();
+  EXPECT_EQ(General().chkGHideSystray.Value(), 1);
+  EXPECT_EQ(General().chkGSWindows.Value(), 1);
+  EXPECT_EQ(General().chkGUpdate.Value(), 1);
+  EXPECT_EQ(General().chkGShowToolbar.Value(), 0);
+  EXPECT_EQ(Welcome().ChkMinimize.Value(), 1);
+}
+
+TEST_F(Settings, AfterAFirstRunTheGeneralBoxesKeepTheirDesignUntilTheFirstSave) {
+  CheckAndCreateRegitry(program);
+  Load();
+  EXPECT_EQ(Number("Settings", "StartWithWindows"), 1U);
+  EXPECT_EQ(General().chkGSWindows.Value(), 0);
+  SaveGeneralSettings(program);
+  EXPECT_EQ(Number("Settings", "StartWithWindows"), 0U);
+}
+
+}  // namespace
+}  // namespace vantrel::settings
