@@ -1,5 +1,6 @@
 #include "forms/headless/Toolkit.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/headless/Windows.h"
@@ -67,9 +68,15 @@ void Toolkit::UserCloses(Form& form) {
 }
 
 void Toolkit::SystemEnds() {
-  const std::vector<Form*> forms = LoadedForms();
-  for (Form* form : forms) {
-    if (form->Host() == nullptr) AtBorder([form] { form->Unload(UnloadBySystem); });
+  std::vector<Form*> asked;
+  for (Form* form : LoadedForms()) {
+    if (form->Host() == nullptr) asked.push_back(form);
+  }
+  for (Form* form : asked) {
+    // An answer may have unloaded others.
+    const auto& loaded = LoadedForms();
+    if (std::find(loaded.begin(), loaded.end(), form) == loaded.end()) continue;
+    AtBorder([form] { form->Unload(UnloadBySystem); });
   }
 }
 
