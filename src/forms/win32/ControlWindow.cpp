@@ -30,15 +30,15 @@ class Peer final : public ControlPeer {
 
 struct MouseMessage {
   UINT Message;
-  MouseEvent Control::* Event;
+  MouseEvent Control::*Event;
   int Button;  // 0: those that are held
 };
 
 constexpr MouseMessage MouseMessages[] = {
-    {WM_MOUSEMOVE, &Control::MouseMove, 0},   {WM_LBUTTONDOWN, &Control::MouseDown, 1},
+    {WM_MOUSEMOVE, &Control::MouseMove, 0},     {WM_LBUTTONDOWN, &Control::MouseDown, 1},
     {WM_LBUTTONDBLCLK, &Control::MouseDown, 1}, {WM_RBUTTONDOWN, &Control::MouseDown, 2},
-    {WM_MBUTTONDOWN, &Control::MouseDown, 4}, {WM_LBUTTONUP, &Control::MouseUp, 1},
-    {WM_RBUTTONUP, &Control::MouseUp, 2},     {WM_MBUTTONUP, &Control::MouseUp, 4},
+    {WM_MBUTTONDOWN, &Control::MouseDown, 4},   {WM_LBUTTONUP, &Control::MouseUp, 1},
+    {WM_RBUTTONUP, &Control::MouseUp, 2},       {WM_MBUTTONUP, &Control::MouseUp, 4},
 };
 
 }  // namespace
@@ -109,8 +109,8 @@ void ControlWindow::Changed(Aspect aspect) {
 std::string ControlWindow::ShownText() const {
   std::string text(static_cast<std::size_t>(SendMessageA(Handle(), WM_GETTEXTLENGTH, 0, 0)) + 1,
                    '\0');
-  const LRESULT copied = SendMessageA(Handle(), WM_GETTEXT, text.size(),
-                                      reinterpret_cast<LPARAM>(text.data()));
+  const LRESULT copied =
+      SendMessageA(Handle(), WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(copied));
   return text;
 }

@@ -17,8 +17,8 @@ HFONT Fonts::Of(const Font& font) {
   if (!made) {
     made = FontHandle(CreateFontA(-height, 0, 0, 0, font.Bold ? FW_BOLD : FW_NORMAL, FALSE,
                                   font.Underline, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
-                                  CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                  DEFAULT_PITCH | FF_DONTCARE, name.c_str()));
+                                  CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
+                                  name.c_str()));
   }
   return made.Get();
 }

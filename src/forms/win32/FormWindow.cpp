@@ -6,6 +6,7 @@
 #include "forms/Controls.h"
 #include "forms/UserControl.h"
 #include "forms/win32/FormLayout.h"
+#include "forms/win32/Keyboard.h"
 #include "forms/win32/Painting.h"
 #include "forms/win32/TimerWindow.h"
 #include "forms/win32/WindowMaker.h"
@@ -78,8 +79,8 @@ WindowShape FormWindow::Shape() const {
   shape.Text = form_.Caption();
   shape.Style = WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
   shape.ExtendedStyle = WS_EX_CONTROLPARENT;
-  shape.Area = System().Pixels.Rectangle(
-      {form_.Left(), form_.Top(), form_.Width(), form_.Height()});
+  shape.Area =
+      System().Pixels.Rectangle({form_.Left(), form_.Top(), form_.Width(), form_.Height()});
   if (IsMain()) {
     shape.Style |= WS_OVERLAPPEDWINDOW;
   } else if (IsPanel()) {
@@ -102,7 +103,8 @@ void FormWindow::CreateHidden() {
 
 void FormWindow::MakeControls() {
   int identifier = 0;
-  for (Control* control : form_.Controls()) MakeControlWindow(System(), *control, Handle(), ++identifier);
+  for (Control* control : form_.Controls())
+    MakeControlWindow(System(), *control, Handle(), ++identifier);
   SinkContainers(form_);
   LayOut();
 }
@@ -189,8 +191,7 @@ void FormWindow::ShowState() {
 
 void FormWindow::BecomeChild() {
   const LONG_PTR style = GetWindowLongPtrA(Handle(), GWL_STYLE);
-  SetWindowLongPtrA(Handle(), GWL_STYLE,
-                    (style & ~static_cast<LONG_PTR>(WS_POPUP)) | WS_CHILD);
+  SetWindowLongPtrA(Handle(), GWL_STYLE, (style & ~static_cast<LONG_PTR>(WS_POPUP)) | WS_CHILD);
   SetWindowLongPtrA(Handle(), GWL_EXSTYLE, WS_EX_CONTROLPARENT);
 }
 

@@ -130,9 +130,9 @@ HIMAGELIST ImageStrips::ImagesFor(const std::string& list) {
 HICON ImageStrips::ProgramIcon(bool large) const {
   const int width = GetSystemMetrics(large ? SM_CXICON : SM_CXSMICON);
   const int height = GetSystemMetrics(large ? SM_CYICON : SM_CYSMICON);
-  const HANDLE icon = LoadImageA(GetModuleHandleA(nullptr),
-                                 MAKEINTRESOURCEA(pictures_.IconResource), IMAGE_ICON, width,
-                                 height, LR_SHARED);
+  const HANDLE icon =
+      LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(pictures_.IconResource), IMAGE_ICON,
+                 width, height, LR_SHARED);
   return icon != nullptr ? static_cast<HICON>(icon) : LoadIconA(nullptr, IDI_APPLICATION);
 }
 

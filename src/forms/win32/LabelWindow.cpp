@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/Form.h"
 #include "forms/win32/Painting.h"
 
 namespace vantrel::forms::win32 {
@@ -99,8 +100,8 @@ void LabelWindow::PaintSurface(HDC context, const RECT& area) {
   const LookStyle& style = StyleOf(label_);
   RECT text = area;
   text.left += System().Pixels.Grown(style.Indent);
-  const UINT flags = IsBar(style) ? DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS
-                                  : DT_WORDBREAK | DT_EXPANDTABS;
+  const UINT flags =
+      IsBar(style) ? DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS : DT_WORDBREAK | DT_EXPANDTABS;
   DrawTextIn(context, label_.Caption(), text, TextFont(), TextColor(),
              flags | AlignFlags(label_.Alignment()));
   if (IsLink() && HasFocus()) {

@@ -34,8 +34,7 @@ RECT ClientArea(HWND window) {
   return area;
 }
 
-void FillGradient(HDC context, const RECT& area, COLORREF from, COLORREF to,
-                  Direction direction) {
+void FillGradient(HDC context, const RECT& area, COLORREF from, COLORREF to, Direction direction) {
   if (from == to) {
     FillArea(context, area, from);
     return;
@@ -53,10 +52,10 @@ void FillArea(HDC context, const RECT& area, COLORREF color) {
 
 void RoundedFrame(HDC context, const RECT& area, int radius, COLORREF line, COLORREF fill) {
   const Pen pen(CreatePen(PS_SOLID, 1, line));
-  const Brush brush(fill == CLR_NONE ? nullptr : CreateSolidBrush(fill));
+  const Brush brush(fill == CLR_INVALID ? nullptr : CreateSolidBrush(fill));
   const Selection withPen(context, pen.Get());
-  const Selection withBrush(context, brush ? static_cast<HGDIOBJ>(brush.Get())
-                                           : GetStockObject(NULL_BRUSH));
+  const Selection withBrush(context,
+                            brush ? static_cast<HGDIOBJ>(brush.Get()) : GetStockObject(NULL_BRUSH));
   RoundRect(context, area.left, area.top, area.right, area.bottom, 2 * radius, 2 * radius);
 }
 

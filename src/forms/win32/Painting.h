@@ -36,7 +36,7 @@ RECT ClientArea(HWND window);
 enum class Direction { Across, Down };
 void FillGradient(HDC context, const RECT& area, COLORREF from, COLORREF to, Direction direction);
 void FillArea(HDC context, const RECT& area, COLORREF color);
-// A frame with rounded corners; what is inside is filled, unless fill is CLR_NONE.
+// A frame with rounded corners; what is inside is filled, unless fill is CLR_INVALID.
 void RoundedFrame(HDC context, const RECT& area, int radius, COLORREF line, COLORREF fill);
 void DrawLine(HDC context, POINT from, POINT to, COLORREF color);
 

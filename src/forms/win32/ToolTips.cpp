@@ -15,8 +15,8 @@ ToolTips::~ToolTips() {
 
 void ToolTips::MakeWindow() {
   if (tips_ != nullptr) return;
-  tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0,
-                          0, 0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
+  tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0,
+                          0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
   SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, WidestTip);
 }
 

@@ -30,12 +30,12 @@ void Window::RegisterClass(HICON large, HICON small) {
 
 void Window::Create(const WindowShape& shape, const std::string& name) {
   const bool isOwn = shape.ClassName == nullptr;
-  const HWND window = CreateWindowExA(
-      shape.ExtendedStyle, isOwn ? OwnClass : shape.ClassName, shape.Text.c_str(), shape.Style,
-      shape.Area.left, shape.Area.top, shape.Area.right - shape.Area.left,
-      shape.Area.bottom - shape.Area.top, shape.Parent,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(shape.Identifier)), GetModuleHandleA(nullptr),
-      isOwn ? this : nullptr);
+  const HWND window =
+      CreateWindowExA(shape.ExtendedStyle, isOwn ? OwnClass : shape.ClassName, shape.Text.c_str(),
+                      shape.Style, shape.Area.left, shape.Area.top,
+                      shape.Area.right - shape.Area.left, shape.Area.bottom - shape.Area.top,
+                      shape.Parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(shape.Identifier)),
+                      GetModuleHandleA(nullptr), isOwn ? this : nullptr);
   if (window == nullptr) return;
   if (!isOwn) {
     original_ = reinterpret_cast<WNDPROC>(
@@ -127,10 +127,10 @@ LRESULT Window::OnMessage(UINT message, WPARAM first, LPARAM second) {
 LRESULT Window::OnNotify(NMHDR&) { return 0; }
 
 LRESULT Window::Reflect(UINT message, WPARAM first, LPARAM second) {
-  const HWND sender = message == WM_NOTIFY && second != 0 ? reinterpret_cast<NMHDR*>(second)->hwndFrom
-                      : message == WM_DRAWITEM && second != 0
-                          ? reinterpret_cast<DRAWITEMSTRUCT*>(second)->hwndItem
-                          : reinterpret_cast<HWND>(second);
+  const HWND sender =
+      message == WM_NOTIFY && second != 0     ? reinterpret_cast<NMHDR*>(second)->hwndFrom
+      : message == WM_DRAWITEM && second != 0 ? reinterpret_cast<DRAWITEMSTRUCT*>(second)->hwndItem
+                                              : reinterpret_cast<HWND>(second);
   const std::shared_ptr<Window> control = system_.Find(sender);
   if (control == nullptr || control.get() == this) return Default(message, first, second);
   switch (message) {

@@ -7,6 +7,7 @@
 #include "forms/win32/ChartWindow.h"
 #include "forms/win32/ComboBoxWindow.h"
 #include "forms/win32/FileListWindow.h"
+#include "forms/win32/FormWindow.h"
 #include "forms/win32/FrameWindows.h"
 #include "forms/win32/ImageWindow.h"
 #include "forms/win32/LabelWindow.h"

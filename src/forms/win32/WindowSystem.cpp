@@ -39,7 +39,9 @@ WindowSystem::WindowSystem(win32::Pictures pictures)
   Window::RegisterClass(Images.ProgramIcon(true), Images.ProgramIcon(false));
 }
 
-std::unique_ptr<FormPeer> WindowSystem::MakeWindow(Form& form) { return MakeFormWindow(*this, form); }
+std::unique_ptr<FormPeer> WindowSystem::MakeWindow(Form& form) {
+  return MakeFormWindow(*this, form);
+}
 
 void WindowSystem::RunMessageLoop() {
   RunWhile([] { return true; });

@@ -1,0 +1,69 @@
+#include "forms/win32/ButtonWindows.h"
+
+namespace vantrel::forms::win32 {
+
+WindowShape ButtonWindow::ShapeOf(DWORD style) const {
+  WindowShape shape;
+  shape.ClassName = "BUTTON";
+  shape.Text = Model().WindowText();
+  shape.Style = style | BS_NOTIFY;
+  return shape;
+}
+
+void ButtonWindow::Clicks() {
+  Raise([this] { Model().UserClick(); });
+}
+
+LRESULT ButtonWindow::OnCommand(WPARAM first, LPARAM) {
+  // Windows lets an option report a click when it gets the focus: that is none.
+  if (HIWORD(first) == BN_CLICKED && !focusing_) Clicks();
+  return 0;
+}
+
+LRESULT ButtonWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case BM_CLICK:
+      // At once, wherever it comes from, even while the window is hidden.
+      if (Model().Enabled()) Clicks();
+      return 0;
+    case BM_SETCHECK:
+      if (!IsTelling() && AssignCheck(first)) return 0;
+      break;
+    case WM_SETFOCUS: {
+      focusing_ = true;
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      focusing_ = false;
+      return answer;
+    }
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, first, second);
+}
+
+WindowShape CommandButtonWindow::Shape() const {
+  return ShapeOf(button_.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON);
+}
+
+void CheckBoxWindow::Changed(Aspect aspect) {
+  if (aspect != Aspect::Value) return ButtonWindow::Changed(aspect);
+  Tell(BM_SETCHECK, static_cast<WPARAM>(box_.Value()));
+}
+
+bool CheckBoxWindow::AssignCheck(WPARAM value) {
+  if (value > static_cast<WPARAM>(Grayed)) return true;
+  Raise([&] { box_.SetValue(static_cast<int>(value)); });
+  return true;
+}
+
+void OptionButtonWindow::Changed(Aspect aspect) {
+  if (aspect != Aspect::Value) return ButtonWindow::Changed(aspect);
+  Tell(BM_SETCHECK, option_.Value() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+bool OptionButtonWindow::AssignCheck(WPARAM value) {
+  Raise([&] { option_.SetValue(value == BST_CHECKED); });
+  return true;
+}
+
+}  // namespace vantrel::forms::win32

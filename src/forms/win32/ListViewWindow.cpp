@@ -1,0 +1,279 @@
+#include "forms/win32/ListViewWindow.h"
+
+#include <algorithm>
+
+#include "forms/win32/CheckMarks.h"
+#include "forms/win32/Painting.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+constexpr UINT ShowGathered = WM_APP + 1;
+constexpr std::size_t MostRowsKept = 1000;
+constexpr unsigned StateShift = 12;
+
+int ColumnFormat(Align alignment) {
+  switch (alignment) {
+    case Align::Right:
+      return LVCFMT_RIGHT;
+    case Align::Center:
+      return LVCFMT_CENTER;
+    default:
+      return LVCFMT_LEFT;
+  }
+}
+
+// Messages that are answered from rows: what was gathered is shown first.
+bool LooksAtRows(UINT message) {
+  return message == WM_PAINT || (message >= LVM_FIRST && message < LVM_FIRST + 0x100);
+}
+
+}  // namespace
+
+WindowShape ListViewWindow::Shape() const {
+  WindowShape shape;
+  shape.ClassName = WC_LISTVIEWA;
+  shape.Style = WS_BORDER | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS |
+                LVS_SHAREIMAGELISTS | LVS_NOSORTHEADER;
+  return shape;
+}
+
+void ListViewWindow::Prepare() {
+  Tell(LVM_SETEXTENDEDLISTVIEWSTYLE, 0,
+       LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP | LVS_EX_LABELTIP);
+  if (list_.SmallIcons() != nullptr) {
+    const HIMAGELIST icons = System().Images.ImagesFor(list_.SmallIcons()->QualifiedName());
+    Tell(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons));
+  }
+  if (list_.CheckBoxes()) {
+    checkMarks_ = MakeCheckMarks(System());
+    Tell(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(checkMarks_.Get()));
+    Tell(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
+  }
+  AddColumns();
+  ShowColors();
+  ShowRows();
+}
+
+void ListViewWindow::AddColumns() {
+  int index = 0;
+  for (const Column& model : list_.Columns()) {
+    LVCOLUMNA column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
+    column.fmt = ColumnFormat(model.Alignment);
+    column.cx = System().Pixels.Pixels(model.Width);
+    column.pszText = const_cast<char*>(model.Header.c_str());
+    column.iSubItem = index;
+    Tell(LVM_INSERTCOLUMNA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column));
+    ++index;
+  }
+}
+
+void ListViewWindow::ShowColors() {
+  const Colors& colors = System().Palette;
+  const Color ground = InputGround();
+  Tell(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(colors.Of(ground)));
+  Tell(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(colors.Of(ground)));
+  Tell(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.TextOn(list_.ForeColor(), ground)));
+  Invalidate();
+}
+
+void ListViewWindow::Changed(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Items:
+    case Aspect::Selection:
+      return Gather();
+    case Aspect::Color:
+      return ShowColors();
+    default:
+      return ControlWindow::Changed(aspect);
+  }
+}
+
+// To be shown when the event is over, or when somebody looks.
+void ListViewWindow::Gather() {
+  if (gathering_) return;
+  gathering_ = true;
+  PostMessageA(Handle(), ShowGathered, 0, 0);
+}
+
+void ListViewWindow::ShowRows() {
+  gathering_ = false;
+  if (count_ != list_.Count()) {
+    count_ = list_.Count();
+    Tell(LVM_SETITEMCOUNT, static_cast<WPARAM>(count_), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+  }
+  const auto top = static_cast<int>(Tell(LVM_GETTOPINDEX));
+  const auto page = static_cast<int>(Tell(LVM_GETCOUNTPERPAGE));
+  const int behind = std::min(count_, top + page + 1);
+  for (int row = top; row < behind; ++row) {
+    const auto known = shown_.find(row);
+    if (known != shown_.end() && known->second == RowAsShown(row)) continue;
+    Tell(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+  }
+  ShowSelection();
+}
+
+void ListViewWindow::ShowSelection() {
+  const int row = list_.SelectedIndex() - 1;
+  if (row < 0 ||
+      static_cast<int>(Tell(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)) == row) {
+    return;
+  }
+  LVITEMA item{};
+  item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  item.state = item.stateMask;
+  ControlWindow::Tell(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  ControlWindow::Tell(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+}
+
+std::string ListViewWindow::TextAt(int row, int column) const {
+  if (row < 0 || row >= list_.Count()) return "";
+  const ListItem& item = list_.Item(row + 1);
+  if (column == 0) return item.Text();
+  return column <= item.SubItemCount() ? item.Sub(column).Text : "";
+}
+
+int ListViewWindow::ImageAt(int row) const {
+  if (row < 0 || row >= list_.Count() || list_.SmallIcons() == nullptr) return I_IMAGENONE;
+  const int number = list_.SmallIcons()->NumberOf(list_.Item(row + 1).Icon());
+  return number > 0 ? number - 1 : I_IMAGENONE;
+}
+
+std::string ListViewWindow::RowAsShown(int row) const {
+  if (row >= list_.Count()) return "";
+  const ListItem& item = list_.Item(row + 1);
+  std::string shown = item.Checked() ? "x" : "-";
+  shown += list_.DropHighlight() == row + 1 ? "x" : "-";
+  shown += item.Icon();
+  for (int column = 0; column <= item.SubItemCount(); ++column) {
+    shown += '\0';
+    shown += TextAt(row, column);
+  }
+  return shown;
+}
+
+void ListViewWindow::Tell(LVITEMA& wanted) {
+  const int row = wanted.iItem;
+  if (shown_.size() >= MostRowsKept) shown_.clear();
+  shown_[row] = RowAsShown(row);
+  if ((wanted.mask & LVIF_TEXT) != 0 && wanted.pszText != nullptr && wanted.cchTextMax > 0) {
+    lstrcpynA(wanted.pszText, TextAt(row, wanted.iSubItem).c_str(), wanted.cchTextMax);
+  }
+  if ((wanted.mask & LVIF_IMAGE) != 0) wanted.iImage = ImageAt(row);
+  if ((wanted.mask & LVIF_STATE) != 0 && list_.CheckBoxes() && row >= 0 && row < list_.Count()) {
+    wanted.state |= INDEXTOSTATEIMAGEMASK(list_.Item(row + 1).Checked() ? 2U : 1U);
+  }
+}
+
+LRESULT ListViewWindow::OnNotify(NMHDR& header) {
+  switch (header.code) {
+    case LVN_GETDISPINFOA:
+      Tell(reinterpret_cast<NMLVDISPINFOA&>(header).item);
+      return 0;
+    case LVN_ITEMCHANGED:
+      SelectionMoved(reinterpret_cast<const NMLISTVIEW&>(header));
+      return 0;
+    case NM_CLICK:
+      Clicked(reinterpret_cast<const NMITEMACTIVATE&>(header));
+      return 0;
+    case NM_CUSTOMDRAW:
+      return Draw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+    case LVN_GETINFOTIPA: {
+      auto& tip = reinterpret_cast<NMLVGETINFOTIPA&>(header);
+      if (tip.iItem < 0 || tip.iItem >= list_.Count() || tip.cchTextMax <= 0) return 0;
+      const std::string& text = list_.Item(tip.iItem + 1).ToolTipText();
+      if (!text.empty()) lstrcpynA(tip.pszText, text.c_str(), tip.cchTextMax);
+      return 0;
+    }
+    default:
+      return 0;
+  }
+}
+
+void ListViewWindow::SelectionMoved(const NMLISTVIEW& change) {
+  const bool selected =
+      (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+  if (IsTelling() || !selected || change.iItem < 0) return;
+  const int row = change.iItem + 1;
+  if (row == list_.SelectedIndex()) return;
+  told_ = row;
+  Raise([&] { list_.UserSelects(row); });
+}
+
+void ListViewWindow::Clicked(const NMITEMACTIVATE& click) {
+  LVHITTESTINFO hit{};
+  hit.pt = click.ptAction;
+  const int row = static_cast<int>(Tell(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+  const int before = std::exchange(told_, 0);
+  if (row < 0) {
+    // A click beside the rows leaves a row selected.
+    return ShowSelection();
+  }
+  if ((hit.flags & LVHT_ONITEMSTATEICON) != 0 && (hit.flags & LVHT_ONITEMLABEL) == 0) Toggle(row);
+  if (Alive() && before != row + 1) Raise([&] { list_.UserSelects(row + 1); });
+}
+
+void ListViewWindow::Toggle(int row) {
+  if (!list_.CheckBoxes() || row < 0 || row >= list_.Count()) return;
+  const bool checked = !list_.Item(row + 1).Checked();
+  Raise([&] { list_.UserChecks(row + 1, checked); });
+}
+
+LRESULT ListViewWindow::Draw(NMLVCUSTOMDRAW& draw) const {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || list_.DropHighlight() == 0 ||
+      static_cast<int>(draw.nmcd.dwItemSpec) != list_.DropHighlight() - 1) {
+    return CDRF_DODEFAULT;
+  }
+  draw.clrText = System().Palette.Of(palette::HighlightText);
+  draw.clrTextBk = System().Palette.Of(palette::Highlight);
+  return CDRF_NEWFONT;
+}
+
+// A check mark set from outside; a selection goes the way of the user's.
+bool ListViewWindow::AssignState(int row, const LVITEMA& item) {
+  const unsigned image = (item.state & LVIS_STATEIMAGEMASK) >> StateShift;
+  if ((item.stateMask & LVIS_STATEIMAGEMASK) == 0 || image == 0) return false;
+  Raise([&] { list_.UserChecks(row + 1, image == 2); });
+  return true;
+}
+
+LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  if (gathering_ && !IsTelling() && LooksAtRows(message)) ShowRows();
+  switch (message) {
+    case ShowGathered:
+      if (gathering_) ShowRows();
+      return 0;
+    case LVM_SETITEMSTATE:
+      if (!IsTelling() && second != 0 &&
+          AssignState(static_cast<int>(first), *reinterpret_cast<const LVITEMA*>(second))) {
+        return TRUE;
+      }
+      break;
+    case WM_KEYDOWN:
+      if (first == VK_SPACE && list_.CheckBoxes()) {
+        Toggle(list_.SelectedIndex() - 1);
+        return 0;
+      }
+      break;
+    case WM_CHAR:
+      if (first == VK_SPACE && list_.CheckBoxes()) return 0;
+      break;
+    case WM_SYSCOLORCHANGE: {
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      if (Alive()) ShowColors();
+      return answer;
+    }
+    case WM_NCPAINT: {
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      if (Alive()) DrawHouseBorder();
+      return answer;
+    }
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, first, second);
+}
+
+}  // namespace vantrel::forms::win32

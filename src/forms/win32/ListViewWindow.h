@@ -1,0 +1,59 @@
+// A list with columns, which asks its model for the rows that it shows. Changes of rows are
+// gathered and shown together, and only those rows are painted whose texts are not the same.
+#ifndef VANTREL_FORMS_WIN32_LISTVIEWWINDOW_H_
+#define VANTREL_FORMS_WIN32_LISTVIEWWINDOW_H_
+
+#include <windows.h>
+
+// After windows.h.
+#include <commctrl.h>
+
+#include <string>
+#include <unordered_map>
+
+#include "forms/ListView.h"
+#include "forms/win32/ControlWindow.h"
+
+namespace vantrel::forms::win32 {
+
+class ListViewWindow final : public ControlWindow {
+ public:
+  ListViewWindow(WindowSystem& system, ListView& list) : ControlWindow(system, list), list_(list) {}
+  void Changed(Aspect aspect) override;
+  void PaintSurface(HDC, const RECT&) override {}
+  LRESULT OnNotify(NMHDR& header) override;
+
+ protected:
+  WindowShape Shape() const override;
+  void Prepare() override;
+  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
+
+ private:
+  void AddColumns();
+  void Gather();
+  void ShowRows();
+  void ShowSelection();
+  void ShowColors();
+  std::string RowAsShown(int row) const;
+  std::string TextAt(int row, int column) const;
+  int ImageAt(int row) const;
+  void Tell(LVITEMA& wanted);
+  void SelectionMoved(const NMLISTVIEW& change);
+  void Clicked(const NMITEMACTIVATE& click);
+  LRESULT Draw(NMLVCUSTOMDRAW& draw) const;
+  bool AssignState(int row, const LVITEMA& item);
+  void Toggle(int row);
+  using ControlWindow::Tell;
+
+  ListView& list_;
+  ImagesHandle checkMarks_;
+  // The rows that were asked for since they last changed, 0-based.
+  std::unordered_map<int, std::string> shown_;
+  int count_ = 0;
+  int told_ = 0;  // the row that the last change of selection was raised for, until the click
+  bool gathering_ = false;
+};
+
+}  // namespace vantrel::forms::win32
+
+#endif  // VANTREL_FORMS_WIN32_LISTVIEWWINDOW_H_
