@@ -1,7 +1,7 @@
 // The whole program on the in-memory Windows: a machine with a browser that the gate lets in, and
 // copies of the program on it, with every room's behaviour attached.
-#ifndef VANTREL_TESTS_SUPPORT_MACHINE_H_
-#define VANTREL_TESTS_SUPPORT_MACHINE_H_
+#ifndef VANTREL_TESTS_SUPPORT_PROGRAMFIXTURE_H_
+#define VANTREL_TESTS_SUPPORT_PROGRAMFIXTURE_H_
 
 #include <gtest/gtest.h>
 
@@ -66,4 +66,4 @@ struct Copy {
 
 }  // namespace vantrel::test
 
-#endif  // VANTREL_TESTS_SUPPORT_MACHINE_H_
+#endif  // VANTREL_TESTS_SUPPORT_PROGRAMFIXTURE_H_
