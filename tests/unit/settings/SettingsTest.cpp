@@ -6,7 +6,7 @@
 #include "settings/Load.h"
 #include "settings/Schema.h"
 #include "settings/bmdlSave.h"
-#include "support/ProgramFixture.h"
+#include "support/RoomFixture.h"
 
 namespace vantrel::settings {
 namespace {
@@ -26,9 +26,9 @@ std::string GeneralFlag(const std::string& name, int value) {
   return "Settings \"" + name + "\" 4 " + std::to_string(value) + " 0 0 0 -> 0";
 }
 
-class Settings : public support::ProgramFixture {
+class SettingsTree : public test::RoomFixture {
  protected:
-  Settings() {
+  SettingsTree() {
     program.windows.FrmFrameSettings.OnMade([this](windows::FrmFrameSettings& panel) {
       panel.chkGLog.Click = [this] { SaveBlockSettingsGuarded(program); };
     });
@@ -86,7 +86,7 @@ class Settings : public support::ProgramFixture {
   windows::FrmFrameMain& Welcome() { return *program.windows.FrmFrameMain; }
 };
 
-TEST_F(Settings, FirstRunOnAnEmptyStoreMakesTheWholeTree) {
+TEST_F(SettingsTree, FirstRunOnAnEmptyStoreMakesTheWholeTree) {
   program.TotalBlocked = 7;
   CheckAndCreateRegitry(program);
 
@@ -118,7 +118,7 @@ TEST_F(Settings, FirstRunOnAnEmptyStoreMakesTheWholeTree) {
   EXPECT_EQ(process.OpenKeys(), 0U);
 }
 
-TEST_F(Settings, FirstRunWritesInItsOrderWithAFullSaveInTheMiddle) {
+TEST_F(SettingsTree, FirstRunWritesInItsOrderWithAFullSaveInTheMiddle) {
   CheckAndCreateRegitry(program);
   std::vector<std::string> expected = DesignSave(1, "");
   expected.resize(9);  // up to KeepaLog, whose tick saves the whole key
@@ -141,7 +141,7 @@ TEST_F(Settings, FirstRunWritesInItsOrderWithAFullSaveInTheMiddle) {
   EXPECT_EQ(General().chkGLog.Value(), 1);
 }
 
-TEST_F(Settings, FirstRunCreatesEachKeyBehindItsTest) {
+TEST_F(SettingsTree, FirstRunCreatesEachKeyBehindItsTest) {
   CheckAndCreateRegitry(program);
   std::vector<std::string> created = process.Trace().LinesOf("RegCreateKeyExA");
   ASSERT_EQ(created.size(), 5U);
@@ -150,20 +150,20 @@ TEST_F(Settings, FirstRunCreatesEachKeyBehindItsTest) {
   EXPECT_EQ(process.Trace().Names().front(), "RegCreateKeyExA");
 }
 
-TEST_F(Settings, FirstRunOverAWholeTreeOnlyLooks) {
+TEST_F(SettingsTree, FirstRunOverAWholeTreeOnlyLooks) {
   StoreTree();
   CheckAndCreateRegitry(program);
   EXPECT_THAT(Writes(), IsEmpty());
   EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), testing::SizeIs(1));
 }
 
-TEST_F(Settings, FirstRunWhileBlockingWritesThatItIsNotDisabled) {
+TEST_F(SettingsTree, FirstRunWhileBlockingWritesThatItIsNotDisabled) {
   program.BlockingActive = true;
   CheckAndCreateRegitry(program);
   EXPECT_EQ(Number("Block Settings", "GDisabled"), 0U);
 }
 
-TEST_F(Settings, ABlockLogWithoutPopupsIsReset) {
+TEST_F(SettingsTree, ABlockLogWithoutPopupsIsReset) {
   StoreTree();
   SetNumber("Block Log", "Flash", 12);
   RemoveValue("Block Log", "Popup");
@@ -172,7 +172,7 @@ TEST_F(Settings, ABlockLogWithoutPopupsIsReset) {
   EXPECT_EQ(Number("Block Log", "Flash"), 0U);
 }
 
-TEST_F(Settings, ABlockLogWithPopupsIsLeftAlone) {
+TEST_F(SettingsTree, ABlockLogWithPopupsIsLeftAlone) {
   StoreTree();
   SetNumber("Block Log", "Popup", 5);
   RemoveValue("Block Log", "Flash");
@@ -181,7 +181,7 @@ TEST_F(Settings, ABlockLogWithPopupsIsLeftAlone) {
   EXPECT_EQ(Number("Block Log", "Flash"), std::nullopt);
 }
 
-TEST_F(Settings, WithoutItsMarkerTheBlockSettingsAreRewrittenFromTheDesign) {
+TEST_F(SettingsTree, WithoutItsMarkerTheBlockSettingsAreRewrittenFromTheDesign) {
   StoreTree();
   SetNumber("Block Settings", "Popup", 0);
   SetText("Block Settings", "NSounds", "pop");
@@ -192,7 +192,7 @@ TEST_F(Settings, WithoutItsMarkerTheBlockSettingsAreRewrittenFromTheDesign) {
   EXPECT_EQ(Text("Block Settings", "NSounds"), "Alert");
 }
 
-TEST_F(Settings, AMarkerOfAnotherTypeCountsAsMissing) {
+TEST_F(SettingsTree, AMarkerOfAnotherTypeCountsAsMissing) {
   StoreTree();
   world.registry.Set(HKeyCurrentUser, Tree("Settings"), "HideSystem", platform::RegBinary, "x");
   SetNumber("Settings", "Minimize", 1);
@@ -201,14 +201,14 @@ TEST_F(Settings, AMarkerOfAnotherTypeCountsAsMissing) {
   EXPECT_EQ(Number("Settings", "BpId"), 1U);
 }
 
-TEST_F(Settings, AMarkerOfNoBytesIsAnInvalidArgument) {
+TEST_F(SettingsTree, AMarkerOfNoBytesIsAnInvalidArgument) {
   StoreTree();
   world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
   EXPECT_THROW(CheckAndCreateRegitry(program), RuntimeError);
   EXPECT_EQ(process.OpenKeys(), 0U);
 }
 
-TEST_F(Settings, AStoreThatCannotBeWrittenLosesTheSettingsSilently) {
+TEST_F(SettingsTree, AStoreThatCannotBeWrittenLosesTheSettingsSilently) {
   world.registry.Refuse(HKeyCurrentUser, "", Refusal::Write);
   CheckAndCreateRegitry(program);
   SaveBlockSettings(program);
@@ -218,7 +218,7 @@ TEST_F(Settings, AStoreThatCannotBeWrittenLosesTheSettingsSilently) {
   EXPECT_EQ(General().chkGLog.Value(), 1);
 }
 
-TEST_F(Settings, ASaveRewritesTheWholeKeyInItsOrder) {
+TEST_F(SettingsTree, ASaveRewritesTheWholeKeyInItsOrder) {
   StoreTree();
   Notify().cmbsound.SetText("pop");
   SaveBlockSettings(program);
@@ -226,14 +226,14 @@ TEST_F(Settings, ASaveRewritesTheWholeKeyInItsOrder) {
   EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), IsEmpty());
 }
 
-TEST_F(Settings, ASaveCreatesTheKeyWhereTheMarkerIsMissing) {
+TEST_F(SettingsTree, ASaveCreatesTheKeyWhereTheMarkerIsMissing) {
   SaveBlockSettings(program);
   EXPECT_THAT(process.Trace().LinesOf("RegCreateKeyExA"), testing::SizeIs(1));
   EXPECT_EQ(Number("Block Settings", "BpId"), 1U);
   EXPECT_EQ(world.registry.Values(HKeyCurrentUser, Tree("Block Settings"))[0].name, "BpID");
 }
 
-TEST_F(Settings, ASaveTakesEveryBoxAndTheActiveFlag) {
+TEST_F(SettingsTree, ASaveTakesEveryBoxAndTheActiveFlag) {
   program.BlockingActive = true;
   Block().chkBPopup.SetValue(0);
   Block().chkBDhtml.SetValue(2);
@@ -258,7 +258,7 @@ TEST_F(Settings, ASaveTakesEveryBoxAndTheActiveFlag) {
   EXPECT_EQ(Number("Block Settings", "GDisabled"), 0U);
 }
 
-TEST_F(Settings, ASoundStoredAsANumberStaysOne) {
+TEST_F(SettingsTree, ASoundStoredAsANumberStaysOne) {
   StoreTree();
   SetNumber("Block Settings", "NSounds", 77);
   Notify().cmbsound.SetText("pop");
@@ -266,14 +266,14 @@ TEST_F(Settings, ASoundStoredAsANumberStaysOne) {
   EXPECT_EQ(Number("Block Settings", "NSounds"), 0U);
 }
 
-TEST_F(Settings, ASaveWithoutASoundStoresNoBytes) {
+TEST_F(SettingsTree, ASaveWithoutASoundStoresNoBytes) {
   SaveBlockSettings(program);
   const auto sound = world.registry.Get(HKeyCurrentUser, Tree("Block Settings"), "NSounds");
   ASSERT_TRUE(sound);
   EXPECT_EQ(sound->data, "");
 }
 
-TEST_F(Settings, AGeneralSaveWritesTheMarkerAndFiveFlags) {
+TEST_F(SettingsTree, AGeneralSaveWritesTheMarkerAndFiveFlags) {
   StoreTree();
   RemoveValue("Settings", "BpId");
   General().chkGHideSystray.SetValue(1);
@@ -285,7 +285,7 @@ TEST_F(Settings, AGeneralSaveWritesTheMarkerAndFiveFlags) {
                           GeneralFlag("ShowBrowser", 1), GeneralFlag("Minimize", 1)));
 }
 
-TEST_F(Settings, GuardedSavesStandStillWhileSettingsAreLoaded) {
+TEST_F(SettingsTree, GuardedSavesStandStillWhileSettingsAreLoaded) {
   program.LoadingSettings = true;
   EXPECT_TRUE(SaveBlockSettingsGuarded(program));
   EXPECT_TRUE(SaveGeneralSettingsGuarded(program));
@@ -295,7 +295,7 @@ TEST_F(Settings, GuardedSavesStandStillWhileSettingsAreLoaded) {
   EXPECT_EQ(BlockSaves(), 1);
 }
 
-TEST_F(Settings, AGuardedSaveThatFailsShowsTheInformationBox) {
+TEST_F(SettingsTree, AGuardedSaveThatFailsShowsTheInformationBox) {
   world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
   world.registry.Set(HKeyCurrentUser, Tree("Settings"), "BpId", platform::RegSz, "");
   EXPECT_FALSE(SaveBlockSettingsGuarded(program));
@@ -310,7 +310,7 @@ TEST_F(Settings, AGuardedSaveThatFailsShowsTheInformationBox) {
   EXPECT_THAT(Writes(), IsEmpty());
 }
 
-TEST_F(Settings, ALoadWithoutTheMarkerDoesNothing) {
+TEST_F(SettingsTree, ALoadWithoutTheMarkerDoesNothing) {
   SetNumber("Block Settings", "Popup", 0);
   SetNumber("Settings", "HideSystem", 1);
   LoadBlockSettings(program);
@@ -320,7 +320,7 @@ TEST_F(Settings, ALoadWithoutTheMarkerDoesNothing) {
   EXPECT_THAT(process.Trace().LinesOf("RegQueryValueExA"), testing::SizeIs(2));
 }
 
-TEST_F(Settings, ALoadFillsEveryControl) {
+TEST_F(SettingsTree, ALoadFillsEveryControl) {
   StoreTree();
   const char* const flags[] = {"Popup", "DHTML",     "WebDialog", "Banner",
                                "Flash", "DialogBox", "Spy"};
@@ -343,7 +343,7 @@ TEST_F(Settings, ALoadFillsEveryControl) {
   EXPECT_THAT(Writes(), IsEmpty());
 }
 
-TEST_F(Settings, ALoadReadsInItsOrder) {
+TEST_F(SettingsTree, ALoadReadsInItsOrder) {
   StoreTree();
   Load();
   std::vector<std::string> names;
@@ -357,7 +357,7 @@ TEST_F(Settings, ALoadReadsInItsOrder) {
                                  "StartWithWindows", "CheckUpdates", "ShowBrowser", "Minimize"));
 }
 
-TEST_F(Settings, ASoundNameAloneDoesNotSwitchTheSoundOn) {
+TEST_F(SettingsTree, ASoundNameAloneDoesNotSwitchTheSoundOn) {
   StoreTree();
   SetText("Block Settings", "NSounds", "POP2");
   std::vector<int> states;
@@ -367,7 +367,7 @@ TEST_F(Settings, ASoundNameAloneDoesNotSwitchTheSoundOn) {
   EXPECT_THAT(states, ElementsAre(1, 0)) << "ticked by the name, then cleared by the switch";
 }
 
-TEST_F(Settings, AMissingSoundNameClearsTheSwitchUntilTheSwitchIsRead) {
+TEST_F(SettingsTree, AMissingSoundNameClearsTheSwitchUntilTheSwitchIsRead) {
   StoreTree();
   RemoveValue("Block Settings", "NSounds");
   SetNumber("Block Settings", "ShowSound", 1);
@@ -376,7 +376,7 @@ TEST_F(Settings, AMissingSoundNameClearsTheSwitchUntilTheSwitchIsRead) {
   EXPECT_EQ(Notify().cmbsound.ListIndex(), -1);
 }
 
-TEST_F(Settings, OddSoundNamesSelectNothing) {
+TEST_F(SettingsTree, OddSoundNamesSelectNothing) {
   StoreTree();
   for (const std::string& name : {std::string("no such sound"), std::string(300, 'x')}) {
     SetText("Block Settings", "NSounds", name);
@@ -395,7 +395,7 @@ struct BrokenValue {
   ErrorNumber Error;
 };
 
-class BrokenStore : public Settings, public testing::WithParamInterface<BrokenValue> {};
+class BrokenStore : public SettingsTree, public testing::WithParamInterface<BrokenValue> {};
 
 TEST_P(BrokenStore, EndsTheLoadAtTheBrokenValue) {
   StoreTree();
@@ -428,7 +428,7 @@ INSTANTIATE_TEST_SUITE_P(
       return name;
     });
 
-TEST_F(Settings, AMissingLastValueEndsTheLoadThere) {
+TEST_F(SettingsTree, AMissingLastValueEndsTheLoadThere) {
   StoreTree();
   SetNumber("Block Settings", "ShowPHF", 1);
   RemoveValue("Block Settings", "Spy");
@@ -436,7 +436,7 @@ TEST_F(Settings, AMissingLastValueEndsTheLoadThere) {
   EXPECT_EQ(Notify().chkNPHF.Value(), 1);
 }
 
-TEST_F(Settings, ASoundOfNoBytesEndsTheLoadBeforeTheSound) {
+TEST_F(SettingsTree, ASoundOfNoBytesEndsTheLoadBeforeTheSound) {
   StoreTree();
   world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "NSounds", platform::RegSz, "");
   SetNumber("Block Settings", "ShowNotification", 1);
@@ -446,7 +446,7 @@ TEST_F(Settings, ASoundOfNoBytesEndsTheLoadBeforeTheSound) {
   EXPECT_EQ(Notify().chkNS.Value(), 0);
 }
 
-TEST_F(Settings, AFlagStoredAsTextOrAsTwoIsTaken) {
+TEST_F(SettingsTree, AFlagStoredAsTextOrAsTwoIsTaken) {
   StoreTree();
   SetText("Block Settings", "Popup", " 0 ");
   SetNumber("Block Settings", "DHTML", 2);
@@ -455,7 +455,7 @@ TEST_F(Settings, AFlagStoredAsTextOrAsTwoIsTaken) {
   EXPECT_EQ(Block().chkBDhtml.Value(), 2);
 }
 
-TEST_F(Settings, AGeneralLoadFillsItsFiveBoxes) {
+TEST_F(SettingsTree, AGeneralLoadFillsItsFiveBoxes) {
   StoreTree();
   for (const char* name : {"HideSystem", "StartWithWindows", "CheckUpdates", "Minimize"}) {
     SetNumber("Settings", name, 1);
@@ -469,7 +469,7 @@ TEST_F(Settings, AGeneralLoadFillsItsFiveBoxes) {
   EXPECT_EQ(Welcome().ChkMinimize.Value(), 1);
 }
 
-TEST_F(Settings, AfterAFirstRunTheGeneralBoxesKeepTheirDesignUntilTheFirstSave) {
+TEST_F(SettingsTree, AfterAFirstRunTheGeneralBoxesKeepTheirDesignUntilTheFirstSave) {
   CheckAndCreateRegitry(program);
   Load();
   EXPECT_EQ(Number("Settings", "StartWithWindows"), 1U);
