@@ -1,0 +1,46 @@
+// The one table of the console's commands: the name, what stands behind it, a line of help, how
+// many words it takes, and the function that does it. Help and the document are made from it.
+#ifndef VANTREL_APP_CONSOLE_COMMANDS_H_
+#define VANTREL_APP_CONSOLE_COMMANDS_H_
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "app/console/Session.h"
+
+namespace vantrel::console {
+
+using Words = std::vector<std::string>;
+
+inline constexpr std::size_t AnyNumber = 1000000;
+
+struct Command {
+  const char* Name;       // one word, or two: a family and its member
+  const char* Arguments;  // as help shows them
+  const char* Help;
+  std::size_t Least;  // how many words it takes
+  std::size_t Most;
+  void (*Run)(Session& session, const Words& words);
+};
+
+std::span<const Command> Commands();
+
+// The words of a line and the command they name; the words behind the name are left.
+struct Call {
+  const Command* What = nullptr;
+  Words Behind;
+};
+
+// CommandError for an unknown command and for too few or too many words. `words` is not empty.
+Call FindCommand(const Words& words);
+
+// The text of help: all commands, or the one that is named.
+std::string HelpText(const Words& words);
+// The table as the document has it.
+std::string HelpDocument();
+
+}  // namespace vantrel::console
+
+#endif  // VANTREL_APP_CONSOLE_COMMANDS_H_
