@@ -195,6 +195,7 @@ TEST_F(Forms, UnloadMayCancelAndBeAskedAgain) {
 }
 
 TEST_F(Forms, AnUnloadInsideItsOwnUnloadReturnsAtOnce) {
+  form.QueryUnload = [&](bool&, int) { notes.push_back("query"); };
   form.Unloading = [&](bool&) {
     notes.push_back("unload");
     for (Form* each : std::vector<Form*>(toolkit.LoadedForms())) each->Unload();
@@ -203,7 +204,7 @@ TEST_F(Forms, AnUnloadInsideItsOwnUnloadReturnsAtOnce) {
   form.EnsureLoaded();
   panel.EnsureLoaded();
   form.Unload();
-  EXPECT_THAT(notes, ElementsAre("unload"));
+  EXPECT_THAT(notes, ElementsAre("query", "unload"));
   EXPECT_THAT(toolkit.LoadedForms(), IsEmpty());
 }
 
