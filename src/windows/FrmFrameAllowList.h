@@ -73,12 +73,12 @@ class FrmFrameAllowList : public forms::Form {
   forms::ListView lstGroup{Frame11,
                            "lstGroup",
                            {.Caption = "Allowed websites", .At = Grid(16, 168, 408, 86)},
-                           {.Columns = {{"Website", Steps(116)},
-                                        {"Popups", Steps(54)},
-                                        {"DHTML", Steps(54)},
-                                        {"Dialogs", Steps(54)},
-                                        {"Banner", Steps(54)},
-                                        {"Flash", Steps(54)}},
+                           {.Columns = {{"Website", Steps(126)},
+                                        {"Popups", Steps(52)},
+                                        {"DHTML", Steps(52)},
+                                        {"Dialogs", Steps(52)},
+                                        {"Banner", Steps(52)},
+                                        {"Flash", Steps(52)}},
                             .SmallIcons = &imglweb}};
   forms::Label lblstatus{Frame11, "lblstatus", {.At = Grid(16, 257, 330, 28)}};
   forms::Label lblnumberAL{Frame11, "lblnumberAL", {.At = Grid(352, 257, 72, 15)}};

@@ -36,7 +36,7 @@ class FrmFrameLog : public forms::Form {
       Frame14,
       "lstLog",
       {.Caption = "Blocked ads", .At = Grid(14, 62, 410, 150)},
-      {.Columns = {{"Type", Steps(292)}, {"Count", Steps(96), forms::Align::Right}}}};
+      {.Columns = {{"Type", Steps(292)}, {"Count", Steps(114), forms::Align::Right}}}};
   forms::Label lblResetLog{Frame14,
                            "lblResetLog",
                            {.Caption = "Reset Log",
