@@ -144,11 +144,14 @@ std::int32_t FileTree::Refusal(const std::string& path) const {
   const std::string cleaned = Clean(path);
   if (cleaned.empty() || !IsFull(cleaned)) return ErrorPathNotFound;
   if (HasForbiddenCharacter(cleaned)) return ErrorInvalidName;
+  const bool slash = path.back() == '\\' || path.back() == '/';
   if (const Entry* const entry = Find(cleaned)) {
+    if (!entry->folder && slash) return ErrorInvalidName;
     if (entry->folder || entry->readOnly) return ErrorAccessDenied;
     return entry->locked ? ErrorSharingViolation : ErrorSuccess;
   }
-  return IsFolder(FolderOf(cleaned)) ? ErrorSuccess : ErrorPathNotFound;
+  if (!IsFolder(FolderOf(cleaned))) return ErrorPathNotFound;
+  return slash ? ErrorInvalidName : ErrorSuccess;
 }
 
 std::int32_t FileTree::Write(const std::string& path, const std::string& content) {

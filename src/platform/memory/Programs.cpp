@@ -22,6 +22,12 @@ std::string ArgumentsBehind(const std::string& commandLine, std::size_t end) {
   return start == std::string::npos ? std::string() : commandLine.substr(start);
 }
 
+// What stands between the quotes that a command line begins with, else nothing.
+std::string Unquoted(const std::string& commandLine) {
+  if (!commandLine.starts_with('"')) return {};
+  return commandLine.substr(1, commandLine.find('"', 1) - 1);
+}
+
 }  // namespace
 
 void Programs::Register(const std::string& path, Main main) {
@@ -67,9 +73,10 @@ bool Programs::Resolve(const std::string& folder, StartedProcess& process) const
 }
 
 std::int32_t Programs::FindProgram(const std::string& folder, StartedProcess& process) const {
-  if (process.application.empty() && process.commandLine.empty()) return ErrorInvalidParameter;
   if (process.application.empty()) {
-    return Resolve(folder, process) ? ErrorSuccess : ErrorFileNotFound;
+    if (process.commandLine.starts_with("\"\"")) return ErrorInvalidParameter;
+    if (Resolve(folder, process)) return ErrorSuccess;
+    return files_.IsFolder(Unquoted(process.commandLine)) ? ErrorAccessDenied : ErrorFileNotFound;
   }
   const std::string& path = process.application;
   process.program = path;

@@ -47,8 +47,8 @@ class Programs {
   // program is the quoted beginning of the command line or, unquoted, the shortest beginning up to
   // a blank that names one; ".exe" is added to a name without an extension, and a name without a
   // folder is looked for in the starter's folder and in Windows' own. 2 if no program is found, 3
-  // for an application in a folder that is missing, 5 for a folder, 87 for neither application nor
-  // command line, 193 for a file that is no program.
+  // for an application in a folder that is missing, 5 for a folder, 87 for an empty quoted name,
+  // 193 for a file that is no program (its name ends neither in ".exe" nor in ".com").
   std::int32_t Start(ProcessId starter, const std::string& folder, const std::string& application,
                      const std::string& commandLine, int showCommand);
 

@@ -29,9 +29,12 @@ auto PlaceOf(const RegistryKey& key, const std::string& folded) {
       [](const auto& subkey, const std::string& name) { return Fold(subkey->name) < name; });
 }
 
+// An open handle may keep a deleted key longer than its parent lives.
 void MarkDeleted(RegistryKey& key) {
-  key.deleted = true;
   for (const auto& subkey : key.subkeys) MarkDeleted(*subkey);
+  key.name = key.Path() + " (deleted)";
+  key.parent = nullptr;
+  key.deleted = true;
 }
 
 }  // namespace
@@ -95,11 +98,9 @@ std::string RegistryKey::Path() const {
 }
 
 void Unlink(RegistryKey& key) {
+  const auto kept = key.shared_from_this();
+  std::erase(key.parent->subkeys, kept);
   MarkDeleted(key);
-  auto& siblings = key.parent->subkeys;
-  // The last step: it may destroy the key.
-  siblings.erase(std::find_if(siblings.begin(), siblings.end(),
-                              [&key](const auto& each) { return each.get() == &key; }));
 }
 
 RegistryTree::RegistryTree() {

@@ -1,6 +1,7 @@
 #include "platform/memory/RegistryView.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/memory/Misuse.h"
 
@@ -22,6 +23,10 @@ constexpr std::uint32_t GenericAll = 0x10000000;
 constexpr std::uint32_t KeyWrite = 0x20006;
 
 constexpr std::int32_t ErrorBadPathName = 161;
+
+// What the A calls convert at most: a key's path, and any name.
+constexpr std::size_t MaxPathLength = 260;
+constexpr std::size_t MaxTextLength = 32766;
 
 std::uint32_t MapGeneric(std::uint32_t access) {
   std::uint32_t mapped = access & 0x0FFFFFFF;
@@ -47,6 +52,22 @@ std::uint32_t Allowed(const RegistryKey& key) {
 // A name as the A calls take it: up to its first NUL.
 std::string UpToNul(const std::string& name) { return {name.c_str()}; }
 
+// The parts of a path below a root; or the code for a path that the calls refuse.
+std::int32_t SplitPath(KeyHandle root, const std::string& subkey, std::vector<std::string>& parts) {
+  const std::string path = UpToNul(subkey);
+  if (path.size() > MaxPathLength) return ErrorMoreData;
+  if (path.starts_with('\\') && root != HKeyClassesRoot) return ErrorBadPathName;
+  parts = PathParts(path);
+  for (const std::string& part : parts) {
+    if (part.size() > MaxKeyNameLength) return ErrorInvalidParameter;
+  }
+  return ErrorSuccess;
+}
+
+bool IsText(std::uint32_t type) {
+  return type == RegSz || type == RegExpandSz || type == RegMultiSz;
+}
+
 }  // namespace
 
 RegistryView::OpenKey RegistryView::Lookup(KeyHandle handle) const {
@@ -68,10 +89,10 @@ std::int32_t RegistryView::Walk(KeyHandle root, const std::string& subkey,
                                 std::shared_ptr<RegistryKey>& found) const {
   const OpenKey open = Lookup(root);
   if (const std::int32_t code = Check(open, 0); code != ErrorSuccess) return code;
-  if (subkey.starts_with('\\')) return ErrorBadPathName;
+  std::vector<std::string> parts;
+  if (const std::int32_t code = SplitPath(root, subkey, parts); code != ErrorSuccess) return code;
   found = open.key;
-  for (const std::string& part : PathParts(subkey)) {
-    if (part.size() > MaxKeyNameLength) return ErrorInvalidParameter;
+  for (const std::string& part : parts) {
     RegistryKey* const below = found->Subkey(part);
     if (below == nullptr) return ErrorFileNotFound;
     found = below->shared_from_this();
@@ -95,8 +116,13 @@ std::int32_t RegistryView::Grant(const std::shared_ptr<RegistryKey>& key, std::u
 
 std::int32_t RegistryView::Open(KeyHandle root, const std::string& subkey, std::uint32_t access,
                                 KeyHandle& opened) {
+  // A root is not opened again.
+  if (UpToNul(subkey).empty() && tree_.Root(root)) {
+    opened = root;
+    return ErrorSuccess;
+  }
   std::shared_ptr<RegistryKey> key;
-  if (const std::int32_t code = Walk(root, UpToNul(subkey), key); code != ErrorSuccess) return code;
+  if (const std::int32_t code = Walk(root, subkey, key); code != ErrorSuccess) return code;
   return Grant(key, access, opened);
 }
 
@@ -104,11 +130,10 @@ std::int32_t RegistryView::Create(KeyHandle root, const std::string& subkey, std
                                   KeyHandle& opened) {
   const OpenKey open = Lookup(root);
   if (const std::int32_t code = Check(open, 0); code != ErrorSuccess) return code;
-  const std::string path = UpToNul(subkey);
-  if (path.starts_with('\\')) return ErrorBadPathName;
+  std::vector<std::string> parts;
+  if (const std::int32_t code = SplitPath(root, subkey, parts); code != ErrorSuccess) return code;
   std::shared_ptr<RegistryKey> key = open.key;
-  for (const std::string& part : PathParts(path)) {
-    if (part.size() > MaxKeyNameLength) return ErrorInvalidParameter;
+  for (const std::string& part : parts) {
     if (key->Subkey(part) == nullptr && (Allowed(*key) & CreateSubKey) == 0) {
       return ErrorAccessDenied;
     }
@@ -121,7 +146,9 @@ std::int32_t RegistryView::Query(KeyHandle key, const std::string& valueName, st
                                  std::span<char> buffer, std::uint32_t& length) const {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, QueryValue); code != ErrorSuccess) return code;
-  const RegistryValue* const value = open.key->Value(UpToNul(valueName));
+  const std::string name = UpToNul(valueName);
+  if (name.size() > MaxTextLength) return ErrorInvalidParameter;
+  const RegistryValue* const value = open.key->Value(name);
   if (value == nullptr) return ErrorFileNotFound;
   const std::uint32_t room = length;
   Require(room <= buffer.size(), "the room is larger than the buffer");
@@ -129,6 +156,9 @@ std::int32_t RegistryView::Query(KeyHandle key, const std::string& valueName, st
   length = static_cast<std::uint32_t>(value->data.size());
   if (length > room) return ErrorMoreData;
   std::copy(value->data.begin(), value->data.end(), buffer.begin());
+  // A text without a terminator gets one where there is room; it is not counted.
+  const bool terminated = value->data.ends_with('\0');
+  if (IsText(type) && length > 0 && length < room && !terminated) buffer[length] = '\0';
   return ErrorSuccess;
 }
 
@@ -144,7 +174,7 @@ std::int32_t RegistryView::Set(KeyHandle key, const std::string& valueName, std:
 
 std::int32_t RegistryView::DeleteKey(KeyHandle root, const std::string& subkey) const {
   std::shared_ptr<RegistryKey> key;
-  if (const std::int32_t code = Walk(root, UpToNul(subkey), key); code != ErrorSuccess) return code;
+  if (const std::int32_t code = Walk(root, subkey, key); code != ErrorSuccess) return code;
   const bool allowed = (Allowed(*key) & Delete) != 0;
   if (!allowed || !key->subkeys.empty() || key->parent == nullptr) return ErrorAccessDenied;
   Unlink(*key);
@@ -154,7 +184,9 @@ std::int32_t RegistryView::DeleteKey(KeyHandle root, const std::string& subkey) 
 std::int32_t RegistryView::DeleteValue(KeyHandle key, const std::string& valueName) const {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, SetValue); code != ErrorSuccess) return code;
-  return open.key->DeleteValue(UpToNul(valueName)) ? ErrorSuccess : ErrorFileNotFound;
+  const std::string name = UpToNul(valueName);
+  if (name.size() > MaxTextLength) return ErrorInvalidParameter;
+  return open.key->DeleteValue(name) ? ErrorSuccess : ErrorFileNotFound;
 }
 
 std::int32_t RegistryView::EnumValue(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,

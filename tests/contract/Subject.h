@@ -1,0 +1,85 @@
+// One implementation of the platform under the contract suite, with the hands that a case needs to
+// prepare the world around it. Every case gets a subject of its own.
+#ifndef VANTREL_TESTS_CONTRACT_SUBJECT_H_
+#define VANTREL_TESTS_CONTRACT_SUBJECT_H_
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/Platform.h"
+
+namespace vantrel::platform::contract {
+
+// The key that cases work in, under HKEY_CURRENT_USER; it does not exist when a case begins.
+inline const std::string OwnKey = "Software\\VantrelContract";
+
+class Subject {
+ public:
+  virtual ~Subject() = default;
+
+  virtual platform::Platform Platform() = 0;
+  // A further copy of the program in the same session, until it is ended.
+  virtual platform::Platform StartAnother() = 0;
+  virtual void EndAnother() = 0;
+
+  // An empty folder of this case's own, without a backslash at its end.
+  virtual std::string Folder() = 0;
+  virtual void MakeFolder(const std::string& path) = 0;
+  virtual void PutFile(const std::string& path, const std::string& content) = 0;
+  virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
+  virtual void Hide(const std::string& path) = 0;
+  virtual bool IsHidden(const std::string& path) = 0;
+  // Opens the file for itself alone, until told otherwise or the subject dies.
+  virtual void Lock(const std::string& path) = 0;
+  virtual void Unlock() = 0;
+  // Puts a program there that ends at once.
+  virtual void PutProgram(const std::string& path) = 0;
+
+  // A window of 100 by 50 pixels at the place, without title bar, visible; with a parent it is its
+  // child. It takes texts and counts clicks (BmClick).
+  virtual WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) = 0;
+  virtual int ClicksOf(WindowHandle window) = 0;
+  virtual void Minimize(WindowHandle window) = 0;
+  virtual void Hide(WindowHandle window) = 0;
+  virtual void DestroyWindow(WindowHandle window) = 0;
+};
+
+struct SubjectKind {
+  const char* name;
+  std::unique_ptr<Subject> (*make)();
+};
+
+// For failure messages.
+inline void PrintTo(const SubjectKind& kind, std::ostream* out) { *out << kind.name; }
+
+class ContractTest : public testing::TestWithParam<SubjectKind> {
+ protected:
+  ContractTest();
+
+  std::unique_ptr<Subject> subject_;
+  platform::Platform platform_;
+
+ private:
+  void SweepKeys();
+};
+
+std::unique_ptr<Subject> MakeMemorySubject();
+std::unique_ptr<Subject> MakeWin32Subject();
+
+#ifdef _WIN32
+inline const auto AllKinds = testing::Values(SubjectKind{"Memory", MakeMemorySubject},
+                                             SubjectKind{"Windows", MakeWin32Subject});
+#else
+inline const auto AllKinds = testing::Values(SubjectKind{"Memory", MakeMemorySubject});
+#endif
+
+inline std::string KindName(const testing::TestParamInfo<SubjectKind>& info) {
+  return info.param.name;
+}
+
+}  // namespace vantrel::platform::contract
+
+#endif  // VANTREL_TESTS_CONTRACT_SUBJECT_H_

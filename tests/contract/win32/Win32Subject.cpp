@@ -1,0 +1,133 @@
+#include <windows.h>
+
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <optional>
+
+#include "contract/Subject.h"
+#include "platform/win32/Handle.h"
+#include "platform/win32/Win32Platform.h"
+
+namespace vantrel::platform::contract {
+namespace {
+
+constexpr const char* WindowClass = "VantrelContractWindow";
+
+std::map<HWND, int>& Clicks() {
+  static std::map<HWND, int> clicks;
+  return clicks;
+}
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == BmClick) ++Clicks()[window];
+  return DefWindowProcA(window, message, first, second);
+}
+
+void RegisterOnce() {
+  WNDCLASSA record{};
+  record.lpfnWndProc = Procedure;
+  record.hInstance = GetModuleHandleA(nullptr);
+  record.lpszClassName = WindowClass;
+  RegisterClassA(&record);  // fails quietly from the second time on
+}
+
+void DeleteFolder(const std::string& folder) {
+  WIN32_FIND_DATAA found{};
+  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    const std::string name = found.cFileName;
+    const std::string path = folder + '\\' + name;
+    if (name == "." || name == "..") continue;
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) DeleteFolder(path);
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileA(path.c_str());
+  } while (FindNextFileA(search, &found));
+  FindClose(search);
+  RemoveDirectoryA(folder.c_str());
+}
+
+class Win32Subject : public Subject {
+ public:
+  ~Win32Subject() override {
+    Unlock();
+    for (const HWND window : windows_) ::DestroyWindow(window);
+    if (!folder_.empty()) DeleteFolder(folder_);
+  }
+
+  platform::Platform Platform() override { return own_->Platform(); }
+
+  platform::Platform StartAnother() override {
+    another_ = win32::MakeWin32Platform();
+    return another_->Platform();
+  }
+  void EndAnother() override { another_.reset(); }
+
+  std::string Folder() override {
+    char temp[MAX_PATH] = {};
+    GetTempPathA(MAX_PATH, temp);
+    folder_ = std::string(temp) + "VantrelContract";
+    DeleteFolder(folder_);
+    CreateDirectoryA(folder_.c_str(), nullptr);
+    return folder_;
+  }
+  void MakeFolder(const std::string& path) override { CreateDirectoryA(path.c_str(), nullptr); }
+  void PutFile(const std::string& path, const std::string& content) override {
+    std::ofstream(path, std::ios::binary) << content;
+  }
+  std::optional<std::string> ReadFile(const std::string& path) override {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  }
+  void Hide(const std::string& path) override {
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN);
+  }
+  bool IsHidden(const std::string& path) override {
+    return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0;
+  }
+  void Lock(const std::string& path) override {
+    lock_.Reset(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  }
+  void Unlock() override { lock_.Reset(); }
+  void PutProgram(const std::string& path) override {
+    char system[MAX_PATH] = {};
+    GetSystemDirectoryA(system, MAX_PATH);
+    CopyFileA((std::string(system) + "\\winver.exe").c_str(), path.c_str(), FALSE);
+    CopyFileA((std::string(system) + "\\hostname.exe").c_str(), path.c_str(), FALSE);
+  }
+
+  WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) override {
+    RegisterOnce();
+    const DWORD style = WS_VISIBLE | (parent == 0 ? WS_POPUP : WS_CHILD);
+    const HWND window = CreateWindowExA(0, WindowClass, caption.c_str(), style, place.x, place.y,
+                                        100, 50, reinterpret_cast<HWND>(parent), nullptr,
+                                        GetModuleHandleA(nullptr), nullptr);
+    windows_.insert(windows_.begin(), window);
+    Clicks()[window] = 0;
+    return reinterpret_cast<WindowHandle>(window);
+  }
+  int ClicksOf(WindowHandle window) override { return Clicks()[reinterpret_cast<HWND>(window)]; }
+  void Minimize(WindowHandle window) override {
+    ::ShowWindow(reinterpret_cast<HWND>(window), SW_MINIMIZE);
+  }
+  void Hide(WindowHandle window) override { ::ShowWindow(reinterpret_cast<HWND>(window), SW_HIDE); }
+  void DestroyWindow(WindowHandle window) override {
+    ::DestroyWindow(reinterpret_cast<HWND>(window));
+  }
+
+ private:
+  std::unique_ptr<win32::Win32Platform> own_ = win32::MakeWin32Platform();
+  std::unique_ptr<win32::Win32Platform> another_;
+  std::string folder_;
+  win32::FileHandle lock_;
+  std::vector<HWND> windows_;
+};
+
+}  // namespace
+
+std::unique_ptr<Subject> MakeWin32Subject() { return std::make_unique<Win32Subject>(); }
+
+}  // namespace vantrel::platform::contract
