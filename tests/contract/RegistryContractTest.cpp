@@ -324,8 +324,9 @@ TEST_P(RegistryContract, NoHandleIsInvalid) {
 }
 
 TEST_P(RegistryContract, PredefinedRootsAreNeverClosed) {
+  Create(OwnKey);
   EXPECT_EQ(registry_.RegCloseKey(HKeyCurrentUser), 0);
-  EXPECT_EQ(OpenCode("Software"), 0);
+  EXPECT_EQ(OpenCode(OwnKey), 0);
 }
 
 TEST_P(RegistryContract, RootsCannotBeDeleted) {
