@@ -266,9 +266,12 @@ void FormWindow::RestoreFocus() {
     ::SetFocus(lastFocus_);
     return;
   }
-  if (const Control* first = NextStop(nullptr, false)) {
-    ::SetFocus(reinterpret_cast<HWND>(first->WindowHandle()));
+  const Control* first = NextStop(nullptr, false);
+  // In a dialog Enter is to answer, not to follow a link.
+  if (dynamic_cast<const Label*>(first) != nullptr && !IsMain()) {
+    if (const Control* answer = DefaultButton(form_)) first = answer;
   }
+  if (first != nullptr) ::SetFocus(reinterpret_cast<HWND>(first->WindowHandle()));
 }
 
 // A panel that goes with the focus in it hands it to the window around it.

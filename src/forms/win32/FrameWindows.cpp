@@ -45,6 +45,8 @@ void FrameWindow::PaintSurface(HDC context, const RECT& area) {
     RoundedFrame(context, area, radius, colors.Of(palette::FrameLine), colors.Of(palette::Card));
     return;
   }
+  // Without a caption it only holds what lies on it.
+  if (frame_.Caption().empty()) return;
   const int height = MeasureText(frame_.Caption(), TextFont(), 0, DT_SINGLELINE).cy;
   RECT line = area;
   line.top += height / 2;

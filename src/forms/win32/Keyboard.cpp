@@ -178,13 +178,17 @@ char AccessKeyOf(const std::string& caption) {
   return '\0';
 }
 
-LRESULT DefaultButtonAnswer(const Form& form) {
+const Control* DefaultButton(const Form& form) {
   for (const Control* control : form.Controls()) {
     const auto* button = dynamic_cast<const CommandButton*>(control);
-    if (button == nullptr || !button->IsDefault()) continue;
-    return MAKELONG(GetDlgCtrlID(HandleOf(*button)), DC_HASDEFID);
+    if (button != nullptr && button->IsDefault()) return button;
   }
-  return 0;
+  return nullptr;
+}
+
+LRESULT DefaultButtonAnswer(const Form& form) {
+  const Control* button = DefaultButton(form);
+  return button != nullptr ? MAKELONG(GetDlgCtrlID(HandleOf(*button)), DC_HASDEFID) : 0;
 }
 
 bool HandleKey(WindowSystem& system, const MSG& message) {

@@ -37,6 +37,11 @@ const LookStyle& StyleOf(const Label& label) {
                        [&](const LookStyle& style) { return style.Drawn == label.Drawn(); });
 }
 
+// Whether a label was given no font of its own, so that its look has the say.
+bool IsDialogFont(const Font& font) {
+  return *font.Name == '\0' && font.Size == Font{}.Size && !font.Bold && !font.Underline;
+}
+
 bool IsBar(const LookStyle& style) { return style.From != style.To; }
 
 }  // namespace
@@ -58,7 +63,7 @@ WindowShape LabelWindow::Shape() const {
 
 HFONT LabelWindow::TextFont() const {
   Font font = label_.TextFont();
-  if (font == Font{}) {
+  if (IsDialogFont(font)) {
     const LookStyle& style = StyleOf(label_);
     font.Size = style.Points;
     font.Bold = style.Bold;
@@ -105,8 +110,9 @@ void LabelWindow::PaintSurface(HDC context, const RECT& area) {
   DrawTextIn(context, label_.Caption(), text, TextFont(), TextColor(),
              flags | AlignFlags(label_.Alignment()));
   if (IsLink() && HasFocus()) {
+    const RECT marked = TextArea(label_.Caption(), TextFont(), area, label_.Alignment());
     SetTextColor(context, System().Palette.TextOn(palette::WindowText, GroundColor()));
-    DrawFocusRect(context, &area);
+    DrawFocusRect(context, &marked);
   }
 }
 

@@ -85,6 +85,18 @@ SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags) {
   return {text.empty() ? 0 : area.right, area.bottom};
 }
 
+RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment) {
+  const int room = area.right - area.left;
+  const SIZE size = MeasureText(text, font, room, DT_EXPANDTABS);
+  const int left = alignment == Align::Right    ? area.right - size.cx
+                   : alignment == Align::Center ? area.left + (room - size.cx) / 2
+                                                : area.left;
+  const RECT placed{left, area.top, left + size.cx, area.top + size.cy};
+  RECT common{};
+  IntersectRect(&common, &placed, &area);
+  return common;
+}
+
 UINT AlignFlags(Align alignment) {
   switch (alignment) {
     case Align::Right:

@@ -46,6 +46,9 @@ void DrawTextIn(HDC context, const std::string& text, RECT area, HFONT font, COL
 // The size of a text, broken into lines if width is not 0.
 SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags);
 
+// Where a text aligned within an area lies, as far as the area goes.
+RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment);
+
 UINT AlignFlags(Align alignment);
 
 }  // namespace vantrel::forms::win32

@@ -39,6 +39,8 @@ bool IsFace(const Label& label) {
 std::unique_ptr<ControlPeer> MakeFacePeer(WindowSystem& system, Label& face) {
   auto peer = std::make_unique<FacePeer>(system, face);
   FitToText(face, system.Typefaces.Of(face.TextFont()), system.Pixels);
+  // Its surface may want to follow.
+  dynamic_cast<UserControl&>(*face.Container()).Resized();
   return peer;
 }
 
