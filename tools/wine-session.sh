@@ -62,8 +62,7 @@ UseWine() {
 
 Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
 
-# The server behind Debian's wrapper script, which would force its own option -p0 on it.
-WineServer() { "${wineLauncher[@]}" /usr/lib/wine/wineserver "$@"; }
+WineServer() { "${wineLauncher[@]}" /usr/bin/wineserver "$@"; }
 
 # PrepareWine [user]: on Wine's own desktop window, because without a window manager keys reach
 # programs and captions are drawn only inside one; or on the user's desktop, with its tray.
@@ -96,5 +95,5 @@ PrepareWine() {
 StopWine() {
   [[ -d ${WINEPREFIX:-/nowhere} ]] || return 0
   WineServer -k >/dev/null 2>&1 || true
-  timeout 10 "${wineLauncher[@]}" /usr/lib/wine/wineserver -w >/dev/null 2>&1 || true
+  timeout 10 "${wineLauncher[@]}" /usr/bin/wineserver -w >/dev/null 2>&1 || true
 }
