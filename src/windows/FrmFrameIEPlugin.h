@@ -41,15 +41,15 @@ class FrmFrameIEPlugin : public forms::Form {
                          {.Columns = {{"Name", Steps(292)}, {"Type", Steps(96)}},
                           .CheckBoxes = true,
                           .SmallIcons = &imgbho}};
-  forms::Label lblTotalBHO{Frame1, "lblTotalBHO", {.At = Grid(14, 256, 186, 15)}};
+  forms::Label lblTotalBHO{Frame1, "lblTotalBHO", {.At = Grid(14, 256, 194, 15)}};
   forms::CommandButton cmdRefreshBHO{
       Frame1,
       "cmdRefreshBHO",
-      {.Caption = "Refresh", .At = Grid(204, 252, 106, 23), .ToolTipText = "Refresh list"}};
+      {.Caption = "Refresh", .At = Grid(212, 252, 102, 23), .ToolTipText = "Refresh list"}};
   forms::CommandButton cmddeleteBHO{Frame1,
                                     "cmddeleteBHO",
                                     {.Caption = "Delete selected",
-                                     .At = Grid(318, 252, 106, 23),
+                                     .At = Grid(322, 252, 102, 23),
                                      .ToolTipText = "Remove selected plug-in/BHO"}};
   // Only lists the plug-in folder; nobody sees it.
   forms::FileListBox flbpluginsfile{

@@ -167,7 +167,7 @@ class frmMain : public forms::Form {
                         .ToolTipText = "Help on help",
                         .Drawn = forms::Look::Link,
                         .Alignment = forms::Align::Right}};
-  forms::Image ImghelpLine{Frame6, "ImghelpLine", {.At = Grid(16, 98, 128, 4)}};
+  forms::Image ImghelpLine{Frame6, "ImghelpLine", {.At = Grid(16, 98, 408, 4)}};
   forms::Label Label29{Frame6,
                        "Label29",
                        {.Caption = "Online help",
