@@ -1,0 +1,196 @@
+#include <gmock/gmock.h>
+
+#include "shell/CommandChannel.h"
+#include "shell/bmdlActivate.h"
+#include "unit/shell/ShellTest.h"
+
+namespace vantrel::shell {
+namespace {
+
+using test::BlockSettings;
+using test::Copy;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class CommandChannel : public test::ShellTest {
+ protected:
+  void SetUp() override {
+    copy = StartCopy();
+    Main().Text1.SetText("");
+  }
+  windows::frmMain& Main() { return *copy->Windows().frmMain; }
+
+  // What any other program may do, by the protocol alone.
+  void SendFromOutside(const std::string& command) {
+    const auto button = world.desktop.FindByCaption("Ready for command");
+    world.desktop.SendText(button, 12, 0, command);
+    world.desktop.Send({button, 245, 0, 0, nullptr});
+  }
+
+  std::unique_ptr<Copy> copy;
+};
+
+struct PanelCommand {
+  const char* command;
+  const char* panel;
+};
+
+TEST_F(CommandChannel, EachPanelCommandShowsItsPanelAndKeepsTheTitle) {
+  constexpr PanelCommand Commands[] = {
+      {"/clean", "FrmFrameHistory"},         {"/addlinks", "FrmFrameAllowList"},
+      {"/notify", "FrmFrameNotification"},   {"/graph", "FrmFrameGraph"},
+      {"/iesettings", "FrmFrameIESettings"}, {"/ieplugins", "FrmFrameIEPlugin"},
+  };
+  std::vector<std::string> shown = {"FrmFrameMain"};
+  for (const auto& [command, panel] : Commands) {
+    StartAgain(command);
+    const auto now = ShownPanels(*copy);
+    EXPECT_THAT(now, testing::Contains(panel)) << command;
+    // Nothing is hidden: the panels that showed stay.
+    EXPECT_EQ(now.size(), shown.size() + 1) << command;
+    shown = now;
+    EXPECT_TRUE(Main().Visible());
+    EXPECT_EQ(Main().lblVCP1.Caption(), "Welcome - Qorvel Software Vantrel ") << command;
+    EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command") << command;
+  }
+}
+
+TEST_F(CommandChannel, OptionsShowsTheGeneralSettingsInPlaceOfTheWelcomePanel) {
+  StartAgain("/options");
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameSettings"));
+}
+
+TEST_F(CommandChannel, OnOffInMixedCaseTogglesBlocking) {
+  StartAgain("/OnOff");
+  EXPECT_FALSE(copy->program.BlockingActive);
+  EXPECT_FALSE(EngineEntryStands());
+  EXPECT_TRUE(copy->Windows().FrmFrameMain->cmdstart.Enabled());
+  StartAgain("/ONOFF");
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_TRUE(EngineEntryStands());
+  // The sender's own exit follows and writes 1 although blocking has started.
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
+}
+
+TEST_F(CommandChannel, TheToolbarsDialogShowsAloneAndTheMainWindowStaysHidden) {
+  StartAgain("/customtoolbar");
+  EXPECT_FALSE(Main().Visible());
+  EXPECT_TRUE(copy->Windows().frmcustom->Visible());
+  EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+  // The next command finds the channel open though the window is hidden.
+  StartAgain("");
+  EXPECT_TRUE(Main().Visible());
+}
+
+TEST_F(CommandChannel, AnUnknownCommandBringsTheWindowForwardAndChangesNoPanel) {
+  for (const char* command : {"", "clean", "/clean ", "/clean now", " /clean", "/unknown"}) {
+    Main().Hide();
+    StartAgain(command);
+    EXPECT_TRUE(Main().Visible()) << command;
+    EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain")) << command;
+  }
+}
+
+TEST_F(CommandChannel, APlainSecondStartRestoresAMinimisedWindow) {
+  world.desktop.ShowWindow(Main().hWnd(), 6);
+  ASSERT_EQ(Main().WindowState(), forms::WindowState::Minimized);
+  StartAgain("");
+  EXPECT_FALSE(world.desktop.Iconic(Main().hWnd()));
+  EXPECT_EQ(world.desktop.Foreground(), Main().hWnd());
+}
+
+TEST_F(CommandChannel, AfterThreeCommandsTheTraceHoldsThreeLines) {
+  for (const char* command : {"/clean", "", "/Notify"}) StartAgain(command);
+  EXPECT_EQ(Main().Text1.Text(),
+            "Excuted with command: /clean\r\nExcuted with command: \r\nExcuted with command: "
+            "/Notify");
+}
+
+TEST_F(CommandChannel, AForeignSenderNeedsOnlyTheProtocol) {
+  SendFromOutside("/graph");
+  EXPECT_TRUE(copy->Windows().FrmFrameGraph->Visible());
+  EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+}
+
+TEST_F(CommandChannel, WhileACommandIsDeliveredTheButtonIsNotFound) {
+  platform::WindowHandle during = 1;
+  copy->toolkit.WhenPumped(
+      [&] { during = FindWindowByCaption(copy->program.platform.desktop, ReadyForCommand); });
+  SendFromOutside("/graph");
+  EXPECT_EQ(during, 0U);
+}
+
+TEST_F(CommandChannel, WithoutAReceiverTheCommandIsLostSilently) {
+  Main().cmdDummy.SetCaption("something else");
+  auto second = MakeCopy("/clean");
+  Start(second->program);
+  EXPECT_TRUE(second->toolkit.Ending());
+  EXPECT_THAT(BoxTexts(*second), IsEmpty());
+  EXPECT_FALSE(copy->Windows().FrmFrameHistory->Visible());
+}
+
+TEST_F(CommandChannel, TheFirstMatchOnTheDesktopReceivesTheCommand) {
+  const auto other = world.desktop.MakeWindow(77, 0, "another program");
+  const auto button = world.desktop.MakeWindow(77, other, "Ready for command");
+  StartAgain("/clean");
+  EXPECT_EQ(world.desktop.Caption(button), "/clean");
+  EXPECT_FALSE(copy->Windows().FrmFrameHistory->Visible());
+}
+
+TEST_F(CommandChannel, ATopLevelWindowWithTheCaptionIsNotCompared) {
+  const auto other = world.desktop.MakeWindow(77, 0, "Ready for command");
+  StartAgain("/clean");
+  EXPECT_EQ(world.desktop.Caption(other), "Ready for command");
+  EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
+}
+
+TEST_F(CommandChannel, CommandsOfAnyBytesAndLengthsAreUnknownOnes) {
+  const std::string anything("\x01\xFF\x80\"%s\t", 8);
+  for (const std::string& command : {std::string(100000, 'x'), anything, std::string("\"")}) {
+    StartAgain(command);
+    EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain"));
+    EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+  }
+}
+
+TEST_F(CommandChannel, TheSendersCallsComeInTheirOrder) {
+  auto second = MakeCopy("/clean");
+  second->process.Trace().Clear();
+  SendCommand(second->program, "/clean");
+  std::vector<std::string> names;
+  for (const std::string& name : second->process.Trace().Names()) {
+    if (name != "GetWindowTextA" && name != "EnumChildWindows") names.push_back(name);
+  }
+  EXPECT_THAT(names, ElementsAre("EnumWindows", "GetParent", "IsIconic", "SetForegroundWindow",
+                                 "SendMessageA", "SendMessageA"));
+}
+
+TEST_F(CommandChannel, ACaptionIsCutAt127Characters) {
+  const auto window = world.desktop.MakeWindow(77, 0, std::string(300, 'w'));
+  EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, window), std::string(127, 'w'));
+  EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, 0), "");
+}
+
+TEST_F(CommandChannel, OneGulpShowsAPanelWithoutTraceOrFinalShow) {
+  Main().Hide();
+  OneGulp(copy->program, "/CLEAN");
+  EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
+  EXPECT_FALSE(Main().Visible());
+  EXPECT_EQ(Main().Text1.Text(), "");
+}
+
+TEST_F(CommandChannel, OneGulpDoesNotToggle) {
+  Main().Hide();
+  OneGulp(copy->program, "/onoff");
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_TRUE(Main().Visible());
+}
+
+TEST_F(CommandChannel, OneGulpTakesAnUnknownCommandForTheWelcomePanel) {
+  copy->Windows().FrmFrameMain->Hide();
+  OneGulp(copy->program, "whatever");
+  EXPECT_TRUE(copy->Windows().FrmFrameMain->Visible());
+}
+
+}  // namespace
+}  // namespace vantrel::shell

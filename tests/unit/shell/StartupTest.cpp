@@ -1,0 +1,221 @@
+#include <gmock/gmock.h>
+
+#include "unit/shell/ShellTest.h"
+
+namespace vantrel::shell {
+namespace {
+
+using platform::HKeyCurrentUser;
+using platform::HKeyLocalMachine;
+using test::BlockSettings;
+using test::Settings;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
+constexpr const char* StaleKey =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Browser Helper "
+    "Objects\\{CD701E6C-90D2-416E-9F3B-FFE9157D28EF}";
+
+class Startup : public test::ShellTest {
+ protected:
+  void SetVersion(const std::string& version) {
+    world.registry.SetString(HKeyLocalMachine, BrowserKey, "Version", version);
+  }
+};
+
+TEST_F(Startup, ANormalStartEndsWithBlockingStartedOnTheWelcomePanel) {
+  auto copy = StartCopy();
+  auto& windows = copy->Windows();
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain"));
+  EXPECT_FALSE(windows.FrmFrameMain->cmdstart.Enabled());
+  EXPECT_TRUE(windows.FrmFrameMain->cmdstop.Enabled());
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_EQ(copy->program.BlockStopped, 0);
+  EXPECT_FALSE(copy->program.LoadingSettings);
+  EXPECT_TRUE(copy->program.IsWindowsNT);
+  ASSERT_EQ(world.tray.Icons().size(), 1U);
+  EXPECT_EQ(world.tray.Icons()[0].tip, "Vantrel");
+  EXPECT_EQ(windows.frmMain->cmdDummy.Caption(), "Ready for command");
+  EXPECT_TRUE(windows.frmMain->Visible());
+  EXPECT_EQ(windows.frmMain->lblVCP1.Caption(), "Welcome - Qorvel Software Vantrel ");
+  EXPECT_EQ(windows.frmMain->Width(), 9300);
+  EXPECT_EQ(windows.frmMain->Height(), 6998);
+  EXPECT_TRUE(EngineEntryStands());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 0U);
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+}
+
+std::vector<std::string> LoadedNames(const test::Copy& copy) {
+  std::vector<std::string> names;
+  for (const forms::Form* form : copy.toolkit.LoadedForms()) names.push_back(form->Name());
+  return names;
+}
+
+TEST_F(Startup, TheWindowsAreCreatedInTheirOrder) {
+  { StartCopy(); }
+  auto copy = StartCopy();
+  EXPECT_THAT(
+      LoadedNames(*copy),
+      ElementsAre("frmMain", "FrmFrameMain", "FrmFrameBlockPreferences", "FrmFrameSettings",
+                  "FrmFrameHistory", "FrmFrameAllowList", "FrmFrameNotification",
+                  "FrmFrameIESettings", "FrmFrameIEPlugin", "FrmFrameGraph", "FrmFrameLog"));
+}
+
+// The first run takes the notification's values from their boxes, which makes that panel sooner.
+TEST_F(Startup, OnAnEmptyStoreTheFirstRunTouchesTheNotificationPanelSooner) {
+  auto copy = StartCopy();
+  EXPECT_THAT(
+      LoadedNames(*copy),
+      ElementsAre("frmMain", "FrmFrameMain", "FrmFrameBlockPreferences", "FrmFrameSettings",
+                  "FrmFrameNotification", "FrmFrameHistory", "FrmFrameAllowList",
+                  "FrmFrameIESettings", "FrmFrameIEPlugin", "FrmFrameGraph", "FrmFrameLog"));
+}
+
+TEST_F(Startup, TheBrowserGateLooksAtOneCharacter) {
+  for (const char* refused : {"10.0", "11.0.9600", "1", "5.5", "", "x6", " 6"}) {
+    SetVersion(refused);
+    auto copy = StartCopy();
+    ASSERT_EQ(copy->process.Boxes().size(), 1U) << refused;
+    EXPECT_EQ(copy->process.Boxes()[0],
+              (platform::memory::Box{0,
+                                     "Vantrel does not support Internet Explorer version lesser "
+                                     "than 6.0. Please install a higher version.",
+                                     "Vantrel", 16}));
+    EXPECT_TRUE(copy->toolkit.Ending()) << refused;
+  }
+  for (const char* accepted : {"6", "7.0.5730", "8", "9.11"}) {
+    SetVersion(accepted);
+    auto copy = StartCopy();
+    EXPECT_FALSE(copy->toolkit.Ending()) << accepted;
+    EXPECT_THAT(BoxTexts(*copy), IsEmpty()) << accepted;
+  }
+}
+
+TEST_F(Startup, AMissingVersionIsRefusedWithoutCreatingAnySettings) {
+  world.registry.RemoveValue(HKeyLocalMachine, BrowserKey, "Version");
+  auto copy = StartCopy();
+  EXPECT_TRUE(copy->toolkit.Ending());
+  EXPECT_EQ(copy->process.Boxes().size(), 1U);
+  EXPECT_FALSE(world.registry.HasKey(HKeyCurrentUser, test::RootKey));
+  EXPECT_THAT(world.tray.Icons(), IsEmpty());
+}
+
+TEST_F(Startup, AStaleEnginesEntryIsRemoved) {
+  world.registry.MakeKey(HKeyLocalMachine, StaleKey);
+  auto copy = StartCopy();
+  EXPECT_FALSE(world.registry.HasKey(HKeyLocalMachine, StaleKey));
+}
+
+TEST_F(Startup, AnAbsentScriptDebuggerValueBecomesNo) {
+  world.registry.RemoveValue(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger");
+  auto copy = StartCopy();
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkScript.Value(), 0);
+  EXPECT_EQ(world.registry.Get(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger")->data,
+            "no");
+}
+
+TEST_F(Startup, TheScriptDebuggersYesIsExactAsToCase) {
+  world.registry.SetString(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger", "Yes");
+  auto copy = StartCopy();
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkScript.Value(), 0);
+  EXPECT_EQ(world.registry.Get(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger")->data,
+            "no");
+}
+
+TEST_F(Startup, WithMinimizeStoredTheWindowFlashesUpAndIsHidden) {
+  { StartCopy(); }
+  world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
+  world.registry.SetDword(HKeyCurrentUser, Settings, "Minimize", 1);
+  auto copy = MakeCopy();
+  std::vector<std::string> seen;
+  copy->toolkit.Trace = [&seen](const std::string& line) {
+    if (line == "frmMain Show" || line == "frmMain Hide") seen.push_back(line);
+  };
+  Start(copy->program);
+  EXPECT_THAT(seen, ElementsAre("frmMain Show", "frmMain Hide"));
+  EXPECT_FALSE(copy->Windows().frmMain->Visible());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 0U);
+}
+
+TEST_F(Startup, WithoutTheMarkerTheGeneralBoxesKeepTheirDesignStates) {
+  auto copy = StartCopy();
+  auto& panel = *copy->Windows().FrmFrameSettings;
+  EXPECT_EQ(panel.chkGSWindows.Value(), 0);
+  EXPECT_EQ(Number(Settings, "StartWithWindows"), 1U);
+  EXPECT_EQ(panel.chkGShowToolbar.Value(), 1);
+  EXPECT_TRUE(panel.lblviewtoolbar.Visible());
+  EXPECT_FALSE(Number(Settings, "BpId").has_value());
+}
+
+TEST_F(Startup, AFailureOfTheLoadIsSilentAndStartUpGoesOn) {
+  { StartCopy(); }
+  world.registry.RemoveValue(HKeyCurrentUser, BlockSettings, "Spy");
+  world.registry.SetDword(HKeyCurrentUser, BlockSettings, "Flash", 0);
+  world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
+  world.registry.SetDword(HKeyCurrentUser, Settings, "HideSystem", 1);
+  auto copy = StartCopy();
+  // Everything up to Spy was loaded, the general settings were not.
+  EXPECT_EQ(copy->Windows().FrmFrameBlockPreferences->chkBFlash.Value(), 0);
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkGHideSystray.Value(), 0);
+  EXPECT_FALSE(copy->program.LoadingSettings);
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+}
+
+TEST_F(Startup, APanelCommandAtFirstStartLeavesOnlyItsTrace) {
+  auto copy = StartCopy("/CLEAN");
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain"));
+  EXPECT_EQ(copy->Windows().frmMain->Text1.Text(), "Excuted with command: /CLEAN");
+  EXPECT_EQ(copy->Windows().frmMain->lblVCP1.Caption(), "Welcome - Qorvel Software Vantrel ");
+}
+
+TEST_F(Startup, ToggleAtFirstStartPressesStartBeforeTheSettingsExist) {
+  auto copy = StartCopy("/onoff");
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_TRUE(EngineEntryStands());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 0U);
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+}
+
+TEST_F(Startup, TheToolbarCommandAtFirstStartLeavesTheDialogAlone) {
+  auto copy = StartCopy("/customtoolbar");
+  EXPECT_FALSE(copy->Windows().frmMain->Visible());
+  EXPECT_TRUE(copy->Windows().frmcustom->Visible());
+  EXPECT_TRUE(copy->program.BlockingActive);
+}
+
+TEST_F(Startup, AnErrorThatNothingTrapsEndsInABoxAndAUsableWindow) {
+  world.registry.Set(HKeyCurrentUser, BlockSettings, "BpId", platform::RegDword, "");
+  auto copy = StartCopy();
+  EXPECT_THAT(BoxTexts(*copy),
+              ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+  EXPECT_FALSE(copy->toolkit.Ending());
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+  EXPECT_TRUE(copy->user.Select(copy->Windows().frmMain->MnuClean));
+  EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
+}
+
+TEST_F(Startup, AHandedOverStartHasATrayIconOfItsOwnAndWritesDisabled) {
+  auto first = StartCopy();
+  ASSERT_EQ(Number(BlockSettings, "GDisabled"), 0U);
+  auto second = MakeCopy("/clean");
+  Start(second->program);
+  EXPECT_TRUE(second->toolkit.Ending());
+  EXPECT_THAT(second->process.Trace().LinesOf("Shell_NotifyIconA"), testing::SizeIs(3));
+  EXPECT_EQ(world.tray.Icons().size(), 1U);
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
+  EXPECT_TRUE(first->Windows().FrmFrameHistory->Visible());
+  // No defaults and no further panel.
+  EXPECT_THAT(second->process.Trace().LinesOf("RegCreateKeyExA"), IsEmpty());
+}
+
+TEST_F(Startup, TheVersionRecordIsAskedForByItsSize) {
+  auto copy = MakeCopy();
+  copy->process.Faults().FailEvery("GetVersionExA", 87);
+  Start(copy->program);
+  EXPECT_FALSE(copy->program.IsWindowsNT);
+}
+
+}  // namespace
+}  // namespace vantrel::shell
