@@ -14,9 +14,14 @@
 
 namespace {
 
-constexpr int ControlWidth = 90;
 constexpr int ControlHeight = 20;
-constexpr int Columns = 5;
+// The main window's own controls stand beside the panels and do not overlap them.
+struct Columns {
+  int count;
+  int width;
+};
+constexpr Columns MainColumns{3, 46};
+constexpr Columns PanelColumns{5, 90};
 constexpr int PanelLeft = 150;
 constexpr int PanelTop = 60;
 constexpr int PanelWidth = 462;
@@ -87,22 +92,22 @@ std::array<HWND, std::size(Panels)> panels{};
 HFONT font = nullptr;
 
 HWND MakeControl(HWND parent, const ControlRow& control, const char* text, int place,
-                 bool visible = true) {
-  const int x = 8 + place % Columns * ControlWidth;
-  const int y = 8 + place / Columns * ControlHeight;
+                 const Columns& columns, bool visible = true) {
+  const int x = 8 + place % columns.count * columns.width;
+  const int y = 40 + place / columns.count * ControlHeight;
   HWND window = CreateWindowExA(
       0, control.windowClass, text, control.style | WS_CHILD | (visible ? WS_VISIBLE : 0), x, y,
-      ControlWidth - 2, ControlHeight - 2, parent, nullptr, GetModuleHandleA(nullptr), nullptr);
+      columns.width - 2, ControlHeight - 2, parent, nullptr, GetModuleHandleA(nullptr), nullptr);
   SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   return window;
 }
 
-void MakeControls(HWND parent, const Amount* amounts, std::size_t count) {
+void MakeControls(HWND parent, const Amount* amounts, std::size_t count, const Columns& columns) {
   int place = 0;
   for (std::size_t row = 0; row < count; ++row) {
     const ControlRow& control = amounts[row].control;
     for (int made = 0; made < amounts[row].count; ++made) {
-      MakeControl(parent, control, control.text, place++);
+      MakeControl(parent, control, control.text, place++, columns);
     }
   }
 }
@@ -210,7 +215,7 @@ HWND MakePanel(HWND main, const PanelRow& row) {
   HWND panel = CreateWindowExA(WS_EX_CONTROLPARENT, "BareWindow", "", WS_CHILD | WS_CLIPCHILDREN,
                                PanelLeft, PanelTop, PanelWidth, PanelHeight, main, nullptr,
                                GetModuleHandleA(nullptr), nullptr);
-  MakeControls(panel, row.amounts, row.count);
+  MakeControls(panel, row.amounts, row.count, PanelColumns);
   HWND list = FindWindowExA(panel, nullptr, WC_LISTVIEWA, nullptr);
   if (list != nullptr) {
     AddColumn(list, 0, "Type");
@@ -233,9 +238,9 @@ void AddTrayIcon(HWND owner) {
 // The mailbox and the Start button last: they tell the driver, as in the control panel, that the
 // start is over.
 void TellReady(HWND main) {
-  HWND start = MakeControl(panels[0], Button, "Start", 20);
+  HWND start = MakeControl(panels[0], Button, "Start", 20, PanelColumns);
   EnableWindow(start, FALSE);
-  MakeControl(main, Button, "Ready for command", 60, false);
+  MakeControl(main, Button, "Ready for command", 60, MainColumns, false);
 }
 
 void Run() {
@@ -246,7 +251,7 @@ void Run() {
   HWND main =
       CreateWindowExA(0, "BareWindow", "Bare window program", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                       60, 60, 628, 490, nullptr, MakeMenu(), GetModuleHandleA(nullptr), nullptr);
-  MakeControls(main, MainControls, std::size(MainControls));
+  MakeControls(main, MainControls, std::size(MainControls), MainColumns);
   MakeBars(main);
   for (std::size_t panel = 0; panel < panels.size(); ++panel) {
     panels[panel] = MakePanel(main, Panels[panel]);

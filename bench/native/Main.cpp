@@ -1,0 +1,237 @@
+// The core's hot paths against the in-memory Windows, each beside a plain way to the same end on
+// the same machine. A name with "/plain" is the measure of the name without; the ratios are printed
+// at the end.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "native/Machine.h"
+#include "settings/bmdlReg.h"
+#include "statistics/RefreshCounters.h"
+
+namespace vantrel::bench {
+namespace {
+
+constexpr std::array<const char*, 5> Counters = {"Popup", "DHTML", "WebDialog", "BannerAds",
+                                                 "Flash"};
+constexpr int Rows = 10000;
+constexpr int SettingsValues = 16;
+constexpr int MasterBoxes = 8;
+
+// The shortest way to a number: open, query, close.
+std::uint32_t PlainRead(platform::Registry& registry, const char* name) {
+  platform::KeyHandle key = 0;
+  std::uint32_t type = 0;
+  std::uint32_t number = 0;
+  std::array<char, 4> bytes{};
+  std::uint32_t length = bytes.size();
+  registry.RegOpenKeyExA(platform::HKeyCurrentUser, CountersKey, platform::KeyAllAccess, key);
+  registry.RegQueryValueExA(key, name, type, bytes, length);
+  registry.RegCloseKey(key);
+  std::memcpy(&number, bytes.data(), sizeof number);
+  return number;
+}
+
+void PlainWrite(platform::Registry& registry, const std::string& name, std::uint32_t number) {
+  platform::KeyHandle key = 0;
+  std::array<char, 4> bytes{};
+  std::memcpy(bytes.data(), &number, sizeof number);
+  registry.RegOpenKeyExA(platform::HKeyCurrentUser, SettingsKey, platform::KeyAllAccess, key);
+  registry.RegSetValueExA(key, name, platform::RegDword, {bytes.data(), bytes.size()});
+  registry.RegCloseKey(key);
+}
+
+void ReadValue(benchmark::State& state) {
+  Machine machine;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(settings::ReadRegistryValue(
+        machine.Registry(), platform::HKeyCurrentUser, CountersKey, "Flash"));
+    machine.ForgetCalls();
+  }
+}
+
+void ReadValuePlain(benchmark::State& state) {
+  Machine machine;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(std::to_string(PlainRead(machine.Registry(), "Flash")));
+    machine.ForgetCalls();
+  }
+}
+
+// One count has changed since the last tick, as under a busy engine.
+void CountOne(Machine& machine, std::uint32_t& count) {
+  count = count % 200 + 1;
+  machine.world.registry.SetDword(platform::HKeyCurrentUser, CountersKey, "Flash", count);
+}
+
+void Tick(benchmark::State& state) {
+  Machine machine;
+  std::uint32_t count = 0;
+  for (auto _ : state) {
+    CountOne(machine, count);
+    statistics::RefreshCounters(machine.program);
+    machine.ForgetCalls();
+  }
+  const auto& shown = machine.program.windows.FrmFrameGraph->txtFlash;
+  if (shown.Text() == "0") state.SkipWithError("the tick shows nothing");
+}
+
+// Six reads and the texts, with neither list nor totals.
+void TickPlain(benchmark::State& state) {
+  Machine machine;
+  std::uint32_t count = 0;
+  auto& graph = *machine.program.windows.FrmFrameGraph;
+  const std::array<forms::TextBox*, 5> boxes = {&graph.txtPop, &graph.txtDHTML, &graph.txtWebD,
+                                                &graph.txtBanner, &graph.txtFlash};
+  for (auto _ : state) {
+    CountOne(machine, count);
+    PlainRead(machine.Registry(), Counters[0]);
+    for (std::size_t counter = 0; counter < Counters.size(); ++counter) {
+      boxes[counter]->SetText(std::to_string(PlainRead(machine.Registry(), Counters[counter])));
+    }
+    machine.ForgetCalls();
+  }
+}
+
+// All eight boxes change at each click: from ticked to clear and back.
+void MasterClick(benchmark::State& state) {
+  Machine machine;
+  auto& panel = *machine.program.windows.FrmFrameBlockPreferences;
+  panel.chkAll.SetValue(1);
+  const auto boxes = {&panel.chkBPopup, &panel.chkBDhtml, &panel.chkBDialog,    &panel.chkBBanner,
+                      &panel.chkBFlash, &panel.chkBAdv,   &panel.chkBDialogBox, &panel.chkBSpyware};
+  int wanted = 1;
+  for (auto _ : state) {
+    panel.chkAll.UserClick();
+    machine.ForgetCalls();
+    wanted = 1 - wanted;
+    for (const forms::CheckBox* box : boxes) {
+      if (box->Value() != wanted) state.SkipWithError("a box does not follow the master");
+    }
+  }
+}
+
+// Eight saves of the whole key, value by value, and no control.
+void MasterClickPlain(benchmark::State& state) {
+  Machine machine;
+  std::vector<std::string> names;
+  for (int value = 0; value < SettingsValues; ++value) names.push_back(std::to_string(value));
+  std::uint32_t flag = 0;
+  for (auto _ : state) {
+    flag = 1 - flag;
+    for (int box = 0; box < MasterBoxes; ++box) {
+      for (const std::string& name : names) PlainWrite(machine.Registry(), name, flag);
+    }
+    machine.ForgetCalls();
+  }
+}
+
+void FillList(benchmark::State& state) {
+  Machine machine;
+  auto& list = machine.program.windows.FrmFrameAllowList->lstGroup;
+  for (auto _ : state) {
+    list.Clear();
+    for (int row = 0; row < Rows; ++row) {
+      auto& item = list.Add("M" + std::to_string(row), "site", "a");
+      for (const char* key : {"P1", "D1", "W1", "B1", "F1"}) item.AddSubItem(key, "Blocked");
+    }
+  }
+  list.Clear();
+}
+
+// The same texts in plain rows, with a map for the keys.
+void FillListPlain(benchmark::State& state) {
+  for (auto _ : state) {
+    std::vector<std::vector<std::string>> rows;
+    std::map<std::string, std::size_t> byKey;
+    for (int row = 0; row < Rows; ++row) {
+      byKey.emplace("M" + std::to_string(row), rows.size());
+      rows.push_back({"site", "a"});
+      for (const char* key : {"P1", "D1", "W1", "B1", "F1"}) {
+        rows.back().push_back(key);
+        rows.back().push_back("Blocked");
+      }
+    }
+    benchmark::DoNotOptimize(rows);
+  }
+}
+
+void StartProgram(benchmark::State& state) {
+  for (auto _ : state) {
+    Machine machine;
+    if (!machine.program.BlockingActive) state.SkipWithError("the program does not start");
+  }
+}
+
+struct Wanted {
+  const char* name;
+  double milliseconds;
+};
+constexpr Wanted Limits[] = {{"MasterClick", 20}};
+
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  RatioReporter() : ConsoleReporter(OO_None) {}
+
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.iterations == 0) continue;
+      // Processor time: others may be at work on the machine.
+      seconds_[run.benchmark_name()] =
+          run.cpu_accumulated_time / static_cast<double>(run.iterations);
+    }
+  }
+
+  void Finalize() override {
+    std::printf("\n");
+    for (const auto& [name, seconds] : seconds_) {
+      const auto plain = seconds_.find(name + "/plain");
+      if (plain == seconds_.end()) continue;
+      std::printf("%-20s %10.4f ms %7.2f times the plain way\n", name.c_str(), seconds * 1000,
+                  seconds / plain->second);
+    }
+    for (const Wanted& limit : Limits) PrintLimit(limit);
+  }
+
+ private:
+  void PrintLimit(const Wanted& limit) const {
+    const auto found = seconds_.find(limit.name);
+    if (found == seconds_.end()) return;
+    const bool held = found->second * 1000 < limit.milliseconds;
+    std::printf("%s within %.0f ms: %s\n", limit.name, limit.milliseconds, held ? "yes" : "NO");
+  }
+
+  std::map<std::string, double> seconds_;
+};
+
+void RegisterAll() {
+  benchmark::RegisterBenchmark("ReadRegistryValue", ReadValue);
+  benchmark::RegisterBenchmark("ReadRegistryValue/plain", ReadValuePlain);
+  benchmark::RegisterBenchmark("Tick", Tick);
+  benchmark::RegisterBenchmark("Tick/plain", TickPlain);
+  benchmark::RegisterBenchmark("MasterClick", MasterClick)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("MasterClick/plain", MasterClickPlain)
+      ->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("List10000", FillList)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("List10000/plain", FillListPlain)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("Start", StartProgram)->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+}  // namespace vantrel::bench
+
+int main(int count, char** arguments) {
+  benchmark::Initialize(&count, arguments);
+  if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 2;
+  vantrel::bench::RegisterAll();
+  vantrel::bench::RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  return 0;
+}
