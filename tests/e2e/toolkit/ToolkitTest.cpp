@@ -1,0 +1,544 @@
+// The real windows, driven by messages and keys as a user's hand and a foreign sender would.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+// After windows.h.
+#include <commctrl.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ProgramPictures.h"
+#include "forms/Bars.h"
+#include "forms/Chart.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
+#include "forms/FileListBox.h"
+#include "forms/Form.h"
+#include "forms/ListView.h"
+#include "forms/UserControl.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+struct Surface : UserControl {
+  Surface(Form& form, const char* name, const Design& design) : UserControl(form, name, design) {}
+  Control* Face() override { return &Text; }
+  void KeyPressed() override { ++Pressed; }
+
+  Label Text{*this, "Text", {.Caption = "Surface"}};
+  int Pressed = 0;
+};
+
+// One control a kind, in a main window.
+struct Everything : Form {
+  explicit Everything(Toolkit& toolkit)
+      : Form(toolkit, "Everything",
+             {.Caption = "Everything",
+              .Width = 9300,
+              .Height = 6998,
+              .Left = -1,
+              .Frame = Border::Sizable}) {}
+
+  Menu File{*this, "File", "&File"};
+  Menu Leave{File, "Leave", "&Leave"};
+  ImageList Icons{*this, "Icons", {"one", "two"}};
+  Toolbar Tools{*this, "Tools", {.At = {0, 0, 9000, 500}}, Icons, {{"First", 1}, {}, {"Last", 2}}};
+  Label Before{*this, "Before", {.Caption = "&Name:", .At = {100, 700, 900, 250}}};
+  TextBox Name{*this, "Name", {.Caption = "", .At = {1100, 700, 2000, 300}}};
+  CheckBox Tick{*this, "Tick", {.Caption = "&Tick", .At = {100, 1100, 1500, 250}, .Index = 3}};
+  Frame Group{*this, "Group", {.Caption = "Group", .At = {100, 1400, 4000, 1200}}};
+  OptionButton One{Group, "One", {.Caption = "One", .At = {100, 300, 1500, 250}}, true};
+  OptionButton Two{Group, "Two", {.Caption = "Two", .At = {100, 600, 1500, 250}}};
+  CommandButton Push{*this, "Push", {.Caption = "&Push", .At = {4500, 700, 1200, 350}}};
+  CommandButton Hidden{
+      *this, "Hidden", {.Caption = "Hidden", .At = {4500, 1100, 1200, 350}, .Visible = false}};
+  Label Link{
+      *this, "Link", {.Caption = "A &link", .At = {4500, 1500, 1200, 250}, .Drawn = Look::Link}};
+  ComboBox Pick{
+      *this, "Pick", {.At = {4500, 1900, 1500, 300}}, ComboStyle::PickOnly, {"Red", "Green"}};
+  ComboBox Type{
+      *this, "Type", {.At = {4500, 2300, 1500, 300}}, ComboStyle::Editable, {"Red", "Green"}};
+  ListView List{*this,
+                "List",
+                {.At = {100, 2800, 4000, 1500}},
+                {.Columns = {{"Name", 2000}, {"Value", 1500}}, .CheckBoxes = true}};
+  FileListBox Files{*this, "Files", {.At = {4500, 2800, 2000, 1500}}};
+  Chart Bars{*this,
+             "Bars",
+             {.At = {6600, 700, 2400, 2000}},
+             "R1",
+             {{"Pop", palette::Popups, "3"}, {"Flash", palette::Flash, "4"}}};
+  ProgressBar Progress{*this, "Progress", {.At = {100, 4500, 2000, 250}}};
+  Surface Own{*this, "Own", {.At = {2500, 4500, 1000, 250}}};
+  StatusBar Status{*this,
+                   "Status",
+                   {.At = {0, 5500, 9000, 330}},
+                   {{StatusPanelKind::Text, "Ready", 0}, {StatusPanelKind::Date, "", 1500}}};
+  Timer Clock{*this, "Clock", 10, false};
+};
+
+struct Panel : Form {
+  Panel(Toolkit& toolkit, const char* name)
+      : Form(toolkit, name, {.Width = 3000, .Height = 1500, .Left = 1500, .Top = 3000}) {}
+  CommandButton Inside{*this, "Inside", {.Caption = "Inside", .At = {100, 100, 1200, 350}}};
+};
+
+struct Question : Form {
+  explicit Question(Toolkit& toolkit)
+      : Form(toolkit, "Question",
+             {.Caption = "Question",
+              .Width = 3000,
+              .Height = 2000,
+              .Left = -1,
+              .Frame = Border::Dialog}) {}
+  CommandButton Yes{*this, "Yes", {.Caption = "Yes", .At = {100, 100, 1200, 350}, .Default = true}};
+  CommandButton No{*this, "No", {.Caption = "No", .At = {100, 600, 1200, 350}, .Cancel = true}};
+};
+
+HWND HandleOf(const Control& control) { return reinterpret_cast<HWND>(control.WindowHandle()); }
+HWND HandleOf(const Form& form) { return reinterpret_cast<HWND>(form.hWnd()); }
+
+std::string NameOf(HWND window) {
+  char name[256] = "";
+  const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropA(window, "ControlName")));
+  GlobalGetAtomNameA(atom, name, sizeof name);
+  return name;
+}
+
+std::string TextOf(HWND window) {
+  char text[256] = "";
+  SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+  return text;
+}
+
+void SetText(HWND window, const char* text) {
+  SendMessageA(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+}
+
+class RealWindows : public testing::Test {
+ protected:
+  RealWindows() : toolkit(MakeWin32Toolkit(tests::ProgramPictures())), form(*toolkit) {
+    form.EnsureLoaded();
+    form.Show();
+    toolkit->DoEvents();
+  }
+  ~RealWindows() override {
+    form.Unload();
+    // What an ended program leaves in the queue is not for the next test.
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    }
+  }
+
+  void Key(WPARAM key) {
+    const HWND focus = GetFocus();
+    PostMessageA(focus != nullptr ? focus : HandleOf(form), WM_KEYDOWN, key, 0);
+    toolkit->DoEvents();
+  }
+
+  std::unique_ptr<Win32Toolkit> toolkit;
+  Everything form;
+};
+
+TEST_F(RealWindows, CarryTheirNames) {
+  EXPECT_EQ(NameOf(HandleOf(form)), "Everything");
+  EXPECT_EQ(NameOf(HandleOf(form.Push)), "Everything.Push");
+  EXPECT_EQ(NameOf(HandleOf(form.Tick)), "Everything.Tick(3)");
+}
+
+TEST_F(RealWindows, LeaveNoNamesBehind) {
+  const std::string name = "Everything.Push";
+  form.Unload();
+  EXPECT_EQ(GlobalFindAtomA(name.c_str()), 0);
+}
+
+TEST_F(RealWindows, TakeATextFromOutsideAsTheirOwn) {
+  int changes = 0;
+  form.Name.Change = [&] { ++changes; };
+  SetText(HandleOf(form.Name), "typed");
+  SetText(HandleOf(form.Push), "/clean");
+  SetText(HandleOf(form.Before), "Label");
+  EXPECT_EQ(form.Name.Text(), "typed");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(form.Push.Caption(), "/clean");
+  EXPECT_EQ(TextOf(HandleOf(form.Push)), "/clean");
+  EXPECT_EQ(TextOf(HandleOf(form.Before)), "Label");
+}
+
+TEST_F(RealWindows, ShowWhatTheModelSays) {
+  form.Name.SetText("from code");
+  form.Tick.SetValue(Grayed);
+  form.Two.SetValue(true);
+  form.Type.SetText("Blue");
+  form.Pick.SetListIndex(1);
+  EXPECT_EQ(TextOf(HandleOf(form.Name)), "from code");
+  EXPECT_EQ(SendMessageA(HandleOf(form.Tick), BM_GETCHECK, 0, 0), BST_INDETERMINATE);
+  EXPECT_EQ(SendMessageA(HandleOf(form.One), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+  EXPECT_EQ(SendMessageA(HandleOf(form.Two), BM_GETCHECK, 0, 0), BST_CHECKED);
+  EXPECT_EQ(TextOf(HandleOf(form.Type)), "Blue");
+  EXPECT_EQ(SendMessageA(HandleOf(form.Pick), CB_GETCURSEL, 0, 0), 1);
+}
+
+TEST_F(RealWindows, KeepTheModelInStepWithStatesSetFromOutside) {
+  SendMessageA(HandleOf(form.Tick), BM_SETCHECK, BST_CHECKED, 0);
+  SendMessageA(HandleOf(form.Two), BM_SETCHECK, BST_CHECKED, 0);
+  SendMessageA(HandleOf(form.Pick), CB_SETCURSEL, 1, 0);
+  SendMessageA(HandleOf(form.Name), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>("pasted"));
+  EXPECT_EQ(form.Tick.Value(), Checked);
+  EXPECT_TRUE(form.Two.Value());
+  EXPECT_EQ(form.Pick.Text(), "Green");
+  EXPECT_EQ(form.Name.Text(), "pasted");
+}
+
+TEST_F(RealWindows, ButtonsClickAtOnceEvenHidden) {
+  int clicks = 0;
+  form.Hidden.Click = [&] { ++clicks; };
+  form.Hide();
+  SendMessageA(HandleOf(form.Hidden), BM_CLICK, 0, 0);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(RealWindows, DisabledButtonsDoNotClick) {
+  int clicks = 0;
+  form.Push.Click = [&] { ++clicks; };
+  form.Push.SetEnabled(false);
+  SendMessageA(HandleOf(form.Push), BM_CLICK, 0, 0);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(RealWindows, AClickMayUnloadItsOwnWindow) {
+  form.Push.Click = [&] { form.Unload(); };
+  const HWND window = HandleOf(form.Push);
+  SendMessageA(window, BM_CLICK, 0, 0);
+  EXPECT_FALSE(form.Loaded());
+  EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(RealWindows, TheMouseMayUnloadItsOwnWindow) {
+  form.Link.Click = [&] { form.Unload(); };
+  const HWND window = HandleOf(form.Link);
+  SendMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(RealWindows, ATickMayUnloadItsOwnWindow) {
+  form.Clock.Tick = [&] { form.Unload(); };
+  SendMessageA(HandleOf(form), WM_TIMER, form.Controls().size(), 0);
+  EXPECT_TRUE(form.Loaded()) << "a timer that does not run does not tick";
+  form.Clock.SetEnabled(true);
+  SendMessageA(HandleOf(form), WM_TIMER, form.Controls().size(), 0);
+  EXPECT_FALSE(form.Loaded());
+}
+
+TEST_F(RealWindows, ErrorsStopAtTheBorder) {
+  int shown = 0;
+  toolkit->OnUntrappedError = [&](const text::RuntimeError&) { ++shown; };
+  form.Push.Click = [] { throw text::RuntimeError(text::ErrorNumber::InvalidPropertyValue); };
+  SendMessageA(HandleOf(form.Push), BM_CLICK, 0, 0);
+  EXPECT_EQ(shown, 1);
+}
+
+TEST_F(RealWindows, TheEndLeavesEveryLoop) {
+  form.Push.Click = [&] { toolkit->End(); };
+  PostMessageA(HandleOf(form.Push), BM_CLICK, 0, 0);
+  toolkit->RunMessageLoop();
+  EXPECT_TRUE(toolkit->Ending());
+}
+
+TEST_F(RealWindows, ALogOffUnloadsTheMainWindow) {
+  int mode = -1;
+  form.QueryUnload = [&](bool&, int asked) { mode = asked; };
+  EXPECT_TRUE(SendMessageA(HandleOf(form), WM_QUERYENDSESSION, 0, 0));
+  SendMessageA(HandleOf(form), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(mode, UnloadBySystem);
+  EXPECT_FALSE(form.Loaded());
+}
+
+TEST_F(RealWindows, TheCloseBoxAsksFirst) {
+  int mode = -1;
+  form.QueryUnload = [&](bool& cancel, int asked) {
+    mode = asked;
+    cancel = true;
+  };
+  SendMessageA(HandleOf(form), WM_CLOSE, 0, 0);
+  EXPECT_EQ(mode, UnloadByCloseBox);
+  EXPECT_TRUE(form.Loaded());
+}
+
+TEST_F(RealWindows, ANewTaskbarIsTold) {
+  int told = 0;
+  toolkit->TaskbarCreated = [&] { ++told; };
+  SendMessageA(HandleOf(form), RegisterWindowMessageA("TaskbarCreated"), 0, 0);
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(RealWindows, MenuCommandsReachTheirEntries) {
+  int left = 0;
+  form.Leave.Click = [&] { ++left; };
+  SendMessageA(HandleOf(form), WM_COMMAND, static_cast<WPARAM>(form.Leave.Identifier()), 0);
+  EXPECT_EQ(left, 1);
+}
+
+TEST_F(RealWindows, ToolButtonsAreToldByTheirNumber) {
+  int pressed = 0;
+  form.Tools.ButtonClick = [&](int index) { pressed = index; };
+  SendMessageA(HandleOf(form), WM_COMMAND, 3, reinterpret_cast<LPARAM>(HandleOf(form.Tools)));
+  EXPECT_EQ(pressed, 3);
+}
+
+TEST_F(RealWindows, MouseMovesReachTheWindowInTwips) {
+  float x = 0;
+  form.MouseMove = [&](int, int, float moved, float) { x = moved; };
+  SendMessageA(HandleOf(form), WM_MOUSEMOVE, 1, 515);
+  EXPECT_FLOAT_EQ(x, static_cast<float>(515 * toolkit->TwipsPerPixelX()));
+  SendMessageA(HandleOf(form), WM_MOUSEMOVE, 0, MAKELPARAM(-3, 0));
+  EXPECT_FLOAT_EQ(x, static_cast<float>(-3 * toolkit->TwipsPerPixelX()));
+}
+
+TEST_F(RealWindows, SizesRoundTripInTwips) {
+  form.Resize = [&] {
+    if (form.Width() < 9300) form.SetWidth(9300);
+  };
+  RECT area{};
+  GetWindowRect(HandleOf(form), &area);
+  SetWindowPos(HandleOf(form), nullptr, 0, 0, 100, area.bottom - area.top,
+               SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_EQ(form.Width(), 9300);
+  EXPECT_EQ(form.Height(), 6998);
+  RECT after{};
+  GetWindowRect(HandleOf(form), &after);
+  EXPECT_EQ(after.right - after.left, area.right - area.left);
+}
+
+TEST_F(RealWindows, BarsStretchWithTheMainWindow) {
+  form.SetWidth(12000);
+  form.SetHeight(9000);
+  RECT inside{};
+  RECT bar{};
+  GetClientRect(HandleOf(form), &inside);
+  GetClientRect(HandleOf(form.Tools), &bar);
+  EXPECT_EQ(bar.right, inside.right);
+  GetWindowRect(HandleOf(form.Status), &bar);
+  MapWindowPoints(nullptr, HandleOf(form), reinterpret_cast<POINT*>(&bar), 2);
+  EXPECT_EQ(bar.bottom, inside.bottom);
+  EXPECT_EQ(bar.right, inside.right);
+}
+
+TEST_F(RealWindows, TabVisitsEachStopOnceAndComesBack) {
+  const std::vector<const Control*> expected{&form.Name,  &form.Tick, &form.One,  &form.Push,
+                                             &form.Link,  &form.Pick, &form.Type, &form.List,
+                                             &form.Files, &form.Own};
+  SetFocus(HandleOf(form.Name));
+  for (std::size_t step = 0; step < expected.size(); ++step) {
+    EXPECT_EQ(toolkit->Focus(), expected[step]) << expected[step]->Name();
+    Key(VK_TAB);
+  }
+  EXPECT_EQ(toolkit->Focus(), &form.Name);
+}
+
+TEST_F(RealWindows, ArrowsChooseWithinAGroup) {
+  SetFocus(HandleOf(form.One));
+  Key(VK_DOWN);
+  EXPECT_TRUE(form.Two.Value());
+  EXPECT_EQ(toolkit->Focus(), &form.Two);
+  Key(VK_DOWN);
+  EXPECT_TRUE(form.One.Value());
+}
+
+TEST_F(RealWindows, AccessKeysReachLabelsTargetsAndPress) {
+  int clicks = 0;
+  form.Push.Click = [&] { ++clicks; };
+  SetFocus(HandleOf(form.Push));
+  PostMessageA(GetFocus(), WM_SYSCHAR, 'n', 1 << 29);
+  toolkit->DoEvents();
+  EXPECT_EQ(toolkit->Focus(), &form.Name);
+  PostMessageA(GetFocus(), WM_SYSCHAR, 'p', 1 << 29);
+  toolkit->DoEvents();
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(RealWindows, LinksAndSurfacesTakeEnterAndSpace) {
+  int clicks = 0;
+  form.Link.Click = [&] { ++clicks; };
+  SetFocus(HandleOf(form.Link));
+  Key(VK_RETURN);
+  Key(VK_SPACE);
+  EXPECT_EQ(clicks, 2);
+  SetFocus(HandleOf(form.Own));
+  Key(VK_RETURN);
+  EXPECT_EQ(form.Own.Pressed, 1);
+}
+
+TEST_F(RealWindows, DisablingTheFocusedControlMovesTheFocusFirst) {
+  SetFocus(HandleOf(form.Push));
+  form.Push.SetEnabled(false);
+  EXPECT_EQ(toolkit->Focus(), &form.Link);
+  EXPECT_EQ(GetFocus(), HandleOf(form.Link));
+}
+
+TEST_F(RealWindows, AComboBoxMayKeepTheFocus) {
+  form.Pick.Validate = [](bool& keepFocus) { keepFocus = true; };
+  SetFocus(HandleOf(form.Pick));
+  Key(VK_TAB);
+  EXPECT_EQ(toolkit->Focus(), &form.Pick);
+  EXPECT_EQ(GetFocus(), HandleOf(form.Pick));
+}
+
+TEST_F(RealWindows, AUserControlShowsItsFace) {
+  EXPECT_EQ(TextOf(HandleOf(form.Own)), "Surface");
+  form.Own.Text.SetCaption("Changed");
+  EXPECT_EQ(TextOf(HandleOf(form.Own)), "Changed");
+  int clicks = 0;
+  form.Own.Text.Click = [&] { ++clicks; };
+  SendMessageA(HandleOf(form.Own), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(HandleOf(form.Own), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(RealWindows, AChartSaysItsColumns) {
+  form.Bars.SetColumn(2);
+  form.Bars.SetData("12");
+  EXPECT_EQ(TextOf(HandleOf(form.Bars)), "Pop 3, Flash 12");
+}
+
+TEST_F(RealWindows, AListShowsItsRowsToWhoeverLooks) {
+  for (int row = 1; row <= 10'000; ++row) {
+    form.List.Add("k" + std::to_string(row), "Row " + std::to_string(row), "");
+  }
+  const HWND list = HandleOf(form.List);
+  EXPECT_EQ(SendMessageA(list, LVM_GETITEMCOUNT, 0, 0), 10'000);
+  char text[40] = "";
+  LVITEMA item{};
+  item.pszText = text;
+  item.cchTextMax = sizeof text;
+  SendMessageA(list, LVM_GETITEMTEXTA, 7, reinterpret_cast<LPARAM>(&item));
+  EXPECT_STREQ(text, "Row 8");
+  EXPECT_EQ(SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 0);
+}
+
+TEST_F(RealWindows, AListIsCheckedAndSelectedFromOutside) {
+  form.List.Add("a", "First", "");
+  form.List.Add("b", "Second", "");
+  LVITEMA item{};
+  item.stateMask = LVIS_STATEIMAGEMASK;
+  item.state = INDEXTOSTATEIMAGEMASK(2);
+  SendMessageA(HandleOf(form.List), LVM_SETITEMSTATE, 1, reinterpret_cast<LPARAM>(&item));
+  EXPECT_TRUE(form.List.Item(2).Checked());
+  EXPECT_EQ(SendMessageA(HandleOf(form.List), LVM_GETITEMSTATE, 1, LVIS_STATEIMAGEMASK),
+            static_cast<LRESULT>(INDEXTOSTATEIMAGEMASK(2)));
+  item.stateMask = LVIS_SELECTED;
+  item.state = LVIS_SELECTED;
+  SendMessageA(HandleOf(form.List), LVM_SETITEMSTATE, 1, reinterpret_cast<LPARAM>(&item));
+  EXPECT_EQ(form.List.SelectedIndex(), 2);
+}
+
+TEST_F(RealWindows, ARebuildOfTheSameRowsPaintsNothing) {
+  const auto fill = [&] {
+    form.List.Clear();
+    form.List.Add("a", "First", "").AddSubItem("", "1");
+    form.List.Add("b", "Second", "").AddSubItem("", "2");
+  };
+  fill();
+  toolkit->DoEvents();
+  UpdateWindow(HandleOf(form.List));
+  fill();
+  SendMessageA(HandleOf(form.List), LVM_GETITEMCOUNT, 0, 0);
+  EXPECT_FALSE(GetUpdateRect(HandleOf(form.List), nullptr, FALSE));
+  form.List.Item(2).SetSubText(1, "3");
+  SendMessageA(HandleOf(form.List), LVM_GETITEMCOUNT, 0, 0);
+  EXPECT_TRUE(GetUpdateRect(HandleOf(form.List), nullptr, FALSE));
+}
+
+class Hosted : public RealWindows {
+ protected:
+  Hosted() : lower(*toolkit, "Lower"), upper(*toolkit, "Upper") {
+    for (Panel* panel : {&lower, &upper}) {
+      panel->EnsureLoaded();
+      panel->BecomeChild();
+      SetParent(HandleOf(*panel), HandleOf(form));
+      panel->SetHost(&form);
+      panel->Show();
+    }
+  }
+  ~Hosted() override {
+    upper.Unload();
+    lower.Unload();
+  }
+
+  Panel lower;
+  Panel upper;
+};
+
+TEST_F(Hosted, PanelsAreChildrenAtTheirPlace) {
+  EXPECT_EQ(GetParent(HandleOf(upper)), HandleOf(form));
+  EXPECT_TRUE(IsChild(HandleOf(form), HandleOf(upper)));
+  RECT area{};
+  GetWindowRect(HandleOf(upper), &area);
+  MapWindowPoints(nullptr, HandleOf(form), reinterpret_cast<POINT*>(&area), 2);
+  EXPECT_EQ(area.left, static_cast<LONG>(1500 / toolkit->TwipsPerPixelX()));
+  EXPECT_EQ(area.top, static_cast<LONG>(3000 / toolkit->TwipsPerPixelX()));
+}
+
+TEST_F(Hosted, LaterPanelsLieAbove) {
+  EXPECT_EQ(GetTopWindow(HandleOf(form)), HandleOf(upper));
+  EXPECT_EQ(GetWindow(HandleOf(upper), GW_HWNDNEXT), HandleOf(lower));
+}
+
+TEST_F(Hosted, TabGoesThroughTheUpperPanelOnly) {
+  SetFocus(HandleOf(form.Own));
+  Key(VK_TAB);
+  EXPECT_EQ(toolkit->Focus(), &upper.Inside);
+  Key(VK_TAB);
+  EXPECT_EQ(toolkit->Focus(), &form.Name);
+}
+
+TEST_F(Hosted, AHiddenPanelGivesTheFocusBack) {
+  SetFocus(HandleOf(upper.Inside));
+  upper.Hide();
+  EXPECT_TRUE(GetFocus() != nullptr && !IsChild(HandleOf(upper), GetFocus()));
+}
+
+TEST_F(RealWindows, AModalDialogDisablesTheOthersAndAnswersToItsKeys) {
+  Question question(*toolkit);
+  int yes = 0;
+  bool othersEnabled = true;
+  question.Yes.Click = [&] { ++yes; };
+  question.No.Click = [&] {
+    othersEnabled = IsWindowEnabled(HandleOf(form)) != FALSE;
+    question.Unload();
+  };
+  question.Activate = [&] {
+    PostMessageA(HandleOf(question.Yes), WM_KEYDOWN, VK_RETURN, 0);
+    PostMessageA(HandleOf(question.Yes), WM_KEYDOWN, VK_ESCAPE, 0);
+  };
+  question.ShowModal();
+  EXPECT_EQ(yes, 1);
+  EXPECT_FALSE(othersEnabled);
+  EXPECT_TRUE(IsWindowEnabled(HandleOf(form)));
+}
+
+// The low half of a handle grows with every object that was not freed.
+unsigned NextBrush() {
+  const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+  DeleteObject(brush);
+  return static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(brush) & 0xFFFFU);
+}
+
+TEST_F(RealWindows, NothingIsLeftOfAWindowThatWasUnloaded) {
+  const auto cycle = [&] {
+    Question question(*toolkit);
+    question.Show();
+    toolkit->DoEvents();
+    question.Unload();
+  };
+  cycle();
+  const unsigned before = NextBrush();
+  for (int count = 0; count < 50; ++count) cycle();
+  EXPECT_LE(NextBrush(), before + 8);
+}
+
+}  // namespace
+}  // namespace vantrel::forms::win32
