@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "app/console/Commands.h"
 #include "app/console/Console.h"
 #include "app/console/StateFile.h"
 #include "app/console/Words.h"
@@ -19,12 +20,14 @@ using vantrel::console::ConsoleOptions;
 
 constexpr const char* Usage =
     "usage: vantrel-console [--state FILE] [--keep-going] [--echo] [SCRIPT]\n"
+    "       vantrel-console --commands\n"
     "\n"
     "Reads commands, one a line, from SCRIPT or from standard input; 'help' lists them.\n"
     "  --state FILE   begins with the registry, files and clock of FILE, if it exists, and\n"
     "                 leaves them there at the end\n"
     "  --keep-going   goes on behind a command that failed\n"
     "  --echo         prints each command before what comes of it\n"
+    "  --commands     prints the table of commands as the document has it\n"
     "The exit code is 0, 1 if a command failed, 2 for a wrong argument.\n";
 
 struct Arguments {
@@ -32,6 +35,7 @@ struct Arguments {
   std::string state;
   std::string script;
   bool help = false;
+  bool commands = false;
 };
 
 std::optional<Arguments> Parse(int count, char** words) {
@@ -44,6 +48,8 @@ std::optional<Arguments> Parse(int count, char** words) {
       arguments.options.KeepGoing = true;
     } else if (word == "--echo") {
       arguments.options.Echo = true;
+    } else if (word == "--commands") {
+      arguments.commands = true;
     } else if (word == "--help" || word == "-h") {
       arguments.help = true;
     } else if (arguments.script.empty() && !word.starts_with("-")) {
@@ -85,6 +91,10 @@ int main(int count, char** words) {
   if (!arguments || arguments->help) {
     std::fputs(Usage, arguments ? stdout : stderr);
     return arguments ? 0 : 2;
+  }
+  if (arguments->commands) {
+    std::cout << vantrel::console::HelpDocument();
+    return 0;
   }
   try {
     return Run(*arguments);

@@ -4,6 +4,7 @@
 #include "app/console/RegistryText.h"
 #include "app/console/StateFile.h"
 #include "app/console/Words.h"
+#include "platform/memory/RegFile.h"
 #include "text/Strings.h"
 
 namespace vantrel::console {
@@ -78,9 +79,17 @@ void RefuseRegistry(Session& session, const Words& words) {
   session.World().registry.Refuse(key.Root, key.Subkey, Refusals[place]);
 }
 
-void LoadRegistry(Session&, const Words&) { throw CommandError("not there yet"); }
+void LoadRegistry(Session& session, const Words& words) {
+  if (memory::ImportReg(session.World().registry, ReadRealFile(words.front()))) return;
+  throw CommandError(Quoted(words.front().substr(0, 200)) + " is no registration file");
+}
 
-void SaveRegistry(Session&, const Words&) { throw CommandError("not there yet"); }
+// In the older form, which keeps every byte of the names and texts.
+void SaveRegistry(Session& session, const Words& words) {
+  const KeyPath key = ExistingKey(session, words[1]);
+  WriteRealFile(words[0], memory::ExportReg(session.World().registry, key.Root, key.Subkey,
+                                            memory::RegFormat::Regedit4));
+}
 
 void ListFiles(Session& session, const Words& words) {
   const std::string folder = words.empty() ? "C:" : FolderPath(words.front());
@@ -90,9 +99,11 @@ void ListFiles(Session& session, const Words& words) {
 
 void ShowFile(Session& session, const Words& words) {
   const std::string path = ExistingFile(session, words.front());
-  for (const std::string& line : text::Split(session.World().files.Read(path).value_or(""), '\n')) {
-    const bool ended = !line.empty() && line.back() == '\r';
-    session.Say("  " + Printable(ended ? line.substr(0, line.size() - 1) : line));
+  std::vector<std::string> lines = text::Split(session.World().files.Read(path).value_or(""), '\n');
+  if (!lines.empty() && lines.back().empty()) lines.pop_back();
+  for (std::string& line : lines) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    session.Say("  " + Printable(line));
   }
 }
 

@@ -1,0 +1,192 @@
+#include <gmock/gmock.h>
+
+#include <random>
+#include <sstream>
+
+#include "app/console/Commands.h"
+#include "app/console/Console.h"
+#include "app/console/StateFile.h"
+
+namespace vantrel::console {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr ConsoleOptions KeepGoing{.KeepGoing = true};
+
+std::string Output(const std::string& lines, ConsoleOptions options = KeepGoing) {
+  std::istringstream in(lines);
+  std::ostringstream out;
+  Console(in, out, options).Run();
+  return out.str();
+}
+
+TEST(Console, StopsAtTheFirstErrorUnlessToldOtherwise) {
+  std::istringstream in("jump\nclock\n");
+  std::ostringstream out;
+  EXPECT_FALSE(Console(in, out, {}).Run());
+  EXPECT_EQ(out.str(), "error: no command \"jump\"\n");
+  EXPECT_THAT(Output("jump\nclock\n"), HasSubstr("2004-03-15 12:00:00"));
+}
+
+TEST(Console, TakesLinesThatEndAsOnWindows) {
+  EXPECT_EQ(Output("clock\r\n\r\n# a remark\r\n"), "2004-03-15 12:00:00\n");
+}
+
+TEST(Console, StopsAtQuit) { EXPECT_EQ(Output("quit\nclock\n"), ""); }
+
+TEST(Console, NeedsARunningProgramForWindows) {
+  for (const char* line : {"show", "click a", "close", "exit", "tray left", "command /clean"}) {
+    EXPECT_EQ(Output(line), "error: the program does not run; start it first\n") << line;
+  }
+}
+
+TEST(Console, StartsOneCopyAndHandsTheSecondStartOver) {
+  const std::string text = Output("start\nstart /clean\nprocesses\n");
+  EXPECT_THAT(text, HasSubstr("copy 1 runs\nscreen: frmMain with FrmFrameMain\n"));
+  EXPECT_THAT(text, HasSubstr("screen: frmMain with FrmFrameHistory\ncopy 2 has ended\n"));
+}
+
+TEST(Console, EndsTheProgramByItsExitEntryAlsoFromTheTray) {
+  EXPECT_THAT(Output("start\nexit\n"), HasSubstr("copy 1 has ended"));
+  EXPECT_THAT(Output("start\nclick LnkSettings\ntick chkGHideSystray\nclose\nexit\ntray\n"),
+              HasSubstr("copy 1 has ended\nno icon\n"));
+}
+
+TEST(Console, ClosesForGoodWithoutTheTraySetting) {
+  EXPECT_THAT(Output("start\nclose\n"), HasSubstr("copy 1 has ended"));
+}
+
+TEST(Console, BringsTheWindowBackByADoubleClickOnTheIcon) {
+  EXPECT_THAT(Output("start\nclick LnkSettings\ntick chkGHideSystray\nclose\ntray left\n"),
+              HasSubstr("screen: no window\nscreen: frmMain with FrmFrameMain\n"));
+}
+
+TEST(Console, SaysWhyAControlCannotBeReached) {
+  const std::string text = Output("start\nclick cmdstart\nclick frmMain.cmdDummy\nclick chkGLog\n");
+  EXPECT_THAT(text, HasSubstr("cannot: FrmFrameMain.cmdstart is disabled"));
+  EXPECT_THAT(text, HasSubstr("cannot: frmMain.cmdDummy is hidden"));
+  EXPECT_THAT(text, HasSubstr("cannot: FrmFrameSettings is hidden"));
+}
+
+TEST(Console, ClicksByCaption) {
+  EXPECT_THAT(Output("start\nclick stop\nshow cmdstart\n"), HasSubstr("\"Start\"\n"));
+}
+
+TEST(Console, GoesOnInsideAModalWindow) {
+  const std::string text =
+      Output("start\nmenu Help/About\nclick Settings\nclick CmdOK\nshow lblno\n");
+  EXPECT_THAT(text, HasSubstr("FrmAbout (modal)"));
+  EXPECT_THAT(text, HasSubstr("cannot: FrmAbout is open in front"));
+  EXPECT_THAT(text, HasSubstr("label    lblno \"0\""));
+}
+
+TEST(Console, EndsWithAModalWindowOpen) {
+  EXPECT_THAT(Output("start\nmenu Help/About\n"), HasSubstr("FrmAbout (modal)"));
+  EXPECT_THAT(Output("start\nmenu Help/About\nquit\nclock\n"), Not(HasSubstr("2004")));
+  EXPECT_THAT(Output("start\nmenu Help/About\njump\nclock\n", {}), Not(HasSubstr("2004")));
+}
+
+TEST(Console, HandsACommandOverWhileAModalWindowIsOpen) {
+  EXPECT_THAT(Output("start\nmenu Help/About\nstart /clean\nlogoff\nclock\n"),
+              HasSubstr("copy 1 has ended"));
+}
+
+TEST(Console, AnswersBoxesAsTold) {
+  const std::string refused =
+      "registry set \"HKLM\\SOFTWARE\\Microsoft\\Internet Explorer\" Version string 1\nstart\n";
+  EXPECT_THAT(Output("answer yes\n" + refused + "boxes\n"), HasSubstr("-> OK\n"));
+  EXPECT_THAT(Output("answer maybe\n"), HasSubstr("error: no answer \"maybe\""));
+}
+
+TEST(Console, ShowsAndTracesTheCallsToWindows) {
+  EXPECT_THAT(Output("start\ntrace show\n"), HasSubstr("call: RegOpenKeyExA"));
+  EXPECT_THAT(Output("start\ntrace on\nadvance 2000\n"), HasSubstr("call: Reg"));
+}
+
+TEST(Console, LetsCallsFail) {
+  EXPECT_THAT(Output("fail CreateProcessA every 2\nstart\nclick cmdtest\n"),
+              Not(HasSubstr("started:")));
+  EXPECT_THAT(Output("fail NoSuchCall 1 5\n"), HasSubstr("error: no call"));
+  EXPECT_THAT(Output("fail any every 5\n"), HasSubstr("error: "));
+}
+
+TEST(Console, ResizesNoSmallerThanTheProgramAllows) {
+  EXPECT_THAT(Output("start\nsize 100 100\n"), HasSubstr("frmMain 9300 x 6825"));
+}
+
+TEST(Console, ShowsAndChangesFiles) {
+  EXPECT_EQ(Output("files put Settings\\a.txt one \"two words\"\nfiles show Settings\\a.txt\n"),
+            "  one\n  two words\n");
+  EXPECT_THAT(Output("files put C:\\WINDOWS x\n"), HasSubstr("is a folder"));
+  EXPECT_THAT(Output("files put C:\\a x\nfiles put C:\\a\\b x\n"), HasSubstr("is a file"));
+  EXPECT_THAT(Output("files put D:\\a x\nfiles put C: x\nfiles put C:a x\n"), HasSubstr("error: "));
+  EXPECT_THAT(Output("files delete C:\\WINDOWS\nfiles list C:\\WINDOWS\n"), HasSubstr("no folder"));
+}
+
+TEST(Console, SavesAndLoadsRegistrationFiles) {
+  const std::string file = testing::TempDir() + "console-test.reg";
+  Output("registry set HKCU\\A n string \"two words\"\nregistry save " + file + " HKCU\\A\n");
+  EXPECT_THAT(ReadRealFile(file), testing::StartsWith("REGEDIT4"));
+  EXPECT_THAT(Output("registry load " + file + "\nregistry show HKCU\\A\n"),
+              HasSubstr("n = string \"two words"));
+  WriteRealFile(file, "[HKEY_CURRENT_USER\\A]\n");
+  EXPECT_THAT(Output("registry load " + file + "\n"), HasSubstr("is no registration file"));
+}
+
+TEST(Console, SetsTheClock) {
+  EXPECT_EQ(Output("clock 2005-12-31 23:59:58\nadvance 2000\nclock\n"),
+            "2005-12-31 23:59:58\n2006-01-01 00:00:00\n");
+  EXPECT_THAT(Output("clock 2005-02-30 0:0:0\n"), HasSubstr("no such day"));
+}
+
+TEST(Console, KeepsTheStateWithoutWindows) {
+  std::istringstream in("start\nclick \"Ad Blocking\"\nuntick chkBFlash\nexit\n");
+  std::ostringstream out;
+  Console first(in, out, {});
+  ASSERT_TRUE(first.Run());
+  std::istringstream more("start\nshow chkBFlash\n");
+  std::ostringstream later;
+  Console second(more, later, {});
+  second.TheSession().Replace(WindowsFromState(StateText(first.TheSession().World())));
+  EXPECT_TRUE(second.Run());
+  EXPECT_THAT(later.str(), HasSubstr("check    chkBFlash [ ]"));
+}
+
+// Lines of commands, names and bytes in any order; those that touch the real disk are left out.
+TEST(Console, SurvivesAnyLines) {
+  std::vector<std::string> words{"cmdstart",    "frmMain", "LnkGraph", "1",         "2000",
+                                 "\"\"",        "HKCU\\A", "string",   "C:\\x",     "dword",
+                                 "all",         "left",    "right",    "File/Exit", "Help/About",
+                                 "yes",         "none",    "locked",   "every",     "any",
+                                 "\xFF\x01",    "\"open",  "-1",       "minimize",  "chkBFlash",
+                                 "cmbinternet", "Custom",  "escape",   "on",        "off"};
+  for (const Command& command : Commands()) {
+    const std::string name = command.Name;
+    const bool real = name.find("load") != std::string::npos ||
+                      name.find("save") != std::string::npos || name == "quit";
+    for (int copies = 0; !real && copies < 2; ++copies) words.push_back(name);
+  }
+  std::mt19937 random(1);
+  std::string lines;
+  for (int line = 0; line < 3000; ++line) {
+    if (line % 25 == 0) lines += "start\n";
+    for (unsigned count = random() % 4 + 1; count > 0; --count) {
+      lines += words[random() % words.size()] + ' ';
+    }
+    lines += '\n';
+  }
+  EXPECT_THAT(Output(lines + "clock\n"), HasSubstr("error: "));
+}
+
+TEST(Console, SurvivesAnyBytes) {
+  std::mt19937 random(2);
+  std::string bytes;
+  for (int i = 0; i < 20000; ++i) bytes.push_back(static_cast<char>(random() % 256));
+  EXPECT_THAT(Output(bytes + "\nclock\n"), HasSubstr("2004-03-15"));
+  EXPECT_THAT(Output(std::string(1000000, 'a') + "\nclock\n"), HasSubstr("2004-03-15"));
+}
+
+}  // namespace
+}  // namespace vantrel::console
