@@ -2,22 +2,20 @@
 // program's behaviour together, starts it and runs its messages until it ends.
 #include <windows.h>
 
-#include <memory>
-
-#include "forms/win32/Toolkit.h"
-#include "platform/win32/Platform.h"
+#include "app/pictures/ProgramPictures.h"
+#include "forms/win32/Win32Toolkit.h"
+#include "platform/win32/Win32Platform.h"
 #include "program/Program.h"
-#include "resources/ImageStrips.h"
 #include "shell/Attach.h"
 #include "shell/Startup.h"
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*/, int /*show*/) {
   using namespace vantrel;
   // No library is loaded from the current folder.
   SetDllDirectoryA("");
-  const auto windowsPlatform = platform::win32::MakePlatform();
-  const auto toolkit = forms::win32::MakeToolkit(resources::ImageStrips);
-  program::Program program(windowsPlatform->Families(), *toolkit);
+  const auto platform = platform::win32::MakeWin32Platform();
+  const auto toolkit = forms::win32::MakeWin32Toolkit(app::ProgramPictures());
+  program::Program program(platform->Platform(), *toolkit);
   shell::AttachProgram(program);
   shell::Start(program);
   if (!toolkit->Ending()) toolkit->RunMessageLoop();

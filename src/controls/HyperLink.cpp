@@ -363,9 +363,10 @@ void HyperLink::LabelMoved(int button, int shift, float x, float y) {
 }
 
 void HyperLink::LabelClicked() {
-  text::ErrorTrap trap;
   if (!address_.empty()) OpenAddress();
-  trap([&] { Click(); });
+  // The handler's own border: what it does not trap is shown, and is no error of the link.
+  Owner().Tools().AtBorder([this] { Click(); });
+  Owner().Tools().ThrowIfEnding();
 }
 
 void HyperLink::OpenAddress() {

@@ -3,6 +3,8 @@
 #ifndef VANTREL_FORMS_DESIGN_H_
 #define VANTREL_FORMS_DESIGN_H_
 
+#include <string_view>
+
 #include "forms/Palette.h"
 
 namespace vantrel::forms {
@@ -22,7 +24,10 @@ struct Font {
   bool Bold = false;
   bool Underline = false;
 
-  bool operator==(const Font&) const = default;
+  bool operator==(const Font& other) const {
+    return std::string_view(Name) == other.Name && Size == other.Size && Bold == other.Bold &&
+           Underline == other.Underline;
+  }
 };
 
 // How a label, button or frame is drawn. The meaning stays with its kind.

@@ -1,5 +1,7 @@
 #include "shell/Startup.h"
 
+#include <vector>
+
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
 #include "settings/bmdlReg.h"
@@ -39,11 +41,17 @@ bool BrowserIsRecent(Program& program) {
   program.toolkit.End();
 }
 
+std::vector<controls::HyperLink*> LinksOf(const frmMain& form) {
+  std::vector<controls::HyperLink*> links;
+  for (forms::Control* control : form.Controls()) {
+    if (auto* link = dynamic_cast<controls::HyperLink*>(control)) links.push_back(link);
+  }
+  return links;
+}
+
 void ColourNavigation(frmMain& form) {
   form.PicBase.SetBackColor(palette::NavigationBack);
-  for (forms::Control* control : form.Controls()) {
-    auto* link = dynamic_cast<controls::HyperLink*>(control);
-    if (link == nullptr) continue;
+  for (controls::HyperLink* link : LinksOf(form)) {
     link->SetBackColor(palette::NavigationBack);
     link->SetForeColor(palette::LinkText);
     link->SetHoverColor(palette::LinkHover);
@@ -195,6 +203,7 @@ void GetOSVer(Program& program) {
 }
 
 void AttachStartup(Program& program, frmMain& form) {
+  for (controls::HyperLink* link : LinksOf(form)) link->UsePlatform(program.platform);
   form.Initialize = [&program] { program.platform.desktop.InitCommonControls(); };
   form.Load = [&program, &form] { frmMain_Load(program, form); };
 }
