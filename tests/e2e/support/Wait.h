@@ -12,9 +12,9 @@ inline constexpr DWORD DefaultBound = 15000;
 
 // Polls until the condition holds; false if it did not within `bound` milliseconds.
 inline bool WaitFor(const std::function<bool()>& condition, DWORD bound = DefaultBound) {
-  const ULONGLONG end = GetTickCount64() + bound;
+  const DWORD start = GetTickCount();
   while (!condition()) {
-    if (GetTickCount64() >= end) return false;
+    if (GetTickCount() - start >= bound) return false;
     Sleep(10);
   }
   return true;

@@ -122,6 +122,10 @@ int main(int count, char** arguments) {
       main.lblVCP1.SetCaption(shown.back()->Caption() + " - Qorvel Software Vantrel ");
     }
     if (std::string(arguments[index]) == "frahelp") main.frahelp.SetVisible(true);
+    if (std::string(arguments[index]) == "large") {
+      main.SetWidth(main.Width() * 5 / 4);
+      main.SetHeight(main.Height() * 5 / 4);
+    }
   }
   toolkit->RunMessageLoop();
   return 0;
