@@ -142,6 +142,7 @@ Found FindName(const Words& words) {
   const std::vector<const Command*> members = MembersOf(family);
   if (Member(*members.front()).empty()) return {members.front(), 1};
   std::vector<std::string> names;
+  names.reserve(members.size());
   for (const Command* member : members) names.emplace_back(Member(*member));
   const std::string second = words.size() > 1 ? words[1] : std::string();
   return {members[PickName(family + " command", second, names)], 2};

@@ -81,6 +81,7 @@ std::vector<Control*> Narrowed(const Toolkit& toolkit, std::vector<Control*> fou
 
 std::vector<std::string> NamesOf(const std::vector<Control*>& controls, bool qualified) {
   std::vector<std::string> names;
+  names.reserve(controls.size());
   for (Control* control : controls) {
     names.push_back(qualified ? control->QualifiedName() : NameIn(*control));
   }

@@ -91,6 +91,7 @@ std::size_t PickName(const std::string& kind, const std::string& wanted,
   const std::string shown = Quoted(wanted.substr(0, 40));
   if (found.empty()) throw CommandError("no " + kind + " " + shown + Suggestion(wanted, names));
   std::vector<std::string> several;
+  several.reserve(found.size());
   for (const std::size_t place : found) several.push_back(names[place]);
   throw CommandError("more than one " + kind + " begins with " + shown + ": " + Enumerate(several));
 }

@@ -12,7 +12,7 @@
 namespace vantrel::console {
 namespace {
 
-constexpr std::uintmax_t LargestFile = 256U * 1024 * 1024;
+constexpr std::uintmax_t LargestFile = std::uintmax_t{256} << 20U;
 
 [[noreturn]] void Refuse(const char* what, const std::string& path, const std::string& why) {
   throw CommandError(std::string("cannot ") + what + ' ' + Quoted(path.substr(0, 200)) + ": " +

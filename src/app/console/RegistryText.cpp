@@ -133,6 +133,7 @@ RegistryValue ParseValue(const std::string& name, const std::string& type,
                          const std::vector<std::string>& data) {
   if (name.size() > memory::MaxValueNameLength) throw CommandError("the value's name is too long");
   std::vector<std::string> names;
+  names.reserve(Types.size());
   for (const TypeRow& row : Types) names.emplace_back(row.name);
   const TypeRow& row = Types.at(PickName("type", type, names));
   return {name, row.type, row.parse(data)};

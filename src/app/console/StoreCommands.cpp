@@ -21,7 +21,7 @@ KeyPath ExistingKey(Session& session, const std::string& word) {
 }
 
 std::string ExistingFile(Session& session, const std::string& word) {
-  const std::string path = FilePath(word);
+  std::string path = FilePath(word);
   if (!session.World().files.IsFile(path)) throw CommandError("no file " + Quoted(path));
   return path;
 }

@@ -122,6 +122,7 @@ forms::Toolbar& FindToolbar(const Toolkit& toolkit) {
 int FindTool(const forms::Toolbar& bar, const std::string& word) {
   if (const std::optional<int> number = RowNumber(word)) return *number;
   std::vector<std::string> tips;
+  tips.reserve(bar.Buttons().size());
   for (const forms::ToolButton& button : bar.Buttons()) tips.push_back(button.ToolTipText);
   return static_cast<int>(PickName("tool button", word, tips)) + 1;
 }
