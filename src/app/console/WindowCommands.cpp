@@ -174,6 +174,7 @@ void Choose(Session& session, const Words& words) {
   Copy& copy = session.Current();
   auto& combo = FindControlOf<forms::ComboBox>(copy.Toolkit, words[0], "drop-down list");
   std::vector<std::string> entries;
+  entries.reserve(static_cast<std::size_t>(combo.ListCount()));
   for (int i = 0; i < combo.ListCount(); ++i) entries.push_back(combo.List(i));
   const std::string entry = entries[PickName("entry", words[1], entries)];
   Require(copy.Hand.Choose(combo, entry), copy, combo);
