@@ -76,15 +76,17 @@ LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM
       static_cast<Window*>(creation->lpCreateParams)->Adopt(window);
     }
   }
+  Window* object = ObjectOf(window);
+  if (object != nullptr && message != WM_NCDESTROY) {
+    const std::shared_ptr<Window> kept = object->shared_from_this();
+    return kept->OnMessage(message, first, second);
+  }
+  // Properties are slow: only a window without its object is asked.
   const auto original = reinterpret_cast<WNDPROC>(GetPropA(window, OriginalProperty));
   if (message == WM_NCDESTROY) RemovePropA(window, OriginalProperty);
-  if (Window* object = ObjectOf(window); object != nullptr) {
+  if (object != nullptr) {
     const std::shared_ptr<Window> kept = object->shared_from_this();
-    if (message == WM_NCDESTROY) {
-      kept->Forget(window);
-    } else {
-      return kept->OnMessage(message, first, second);
-    }
+    kept->Forget(window);
   }
   return original != nullptr ? CallWindowProcA(original, window, message, first, second)
                              : DefWindowProcA(window, message, first, second);
