@@ -45,6 +45,12 @@ class Peer final : public FormPeer {
   std::shared_ptr<FormWindow> window_;
 };
 
+// Only top-level windows are told of a new scheme by Windows; common controls want to know.
+BOOL CALLBACK PassSchemeOn(HWND child, LPARAM) {
+  SendMessageA(child, WM_SYSCOLORCHANGE, 0, 0);
+  return TRUE;
+}
+
 }  // namespace
 
 std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form) {
@@ -283,18 +289,9 @@ void FormWindow::LeaveFocus() {
   ::SetFocus(next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle()) : root);
 }
 
-void FormWindow::SchemeChanged(UINT message, WPARAM first, LPARAM second) {
+void FormWindow::SchemeChanged(UINT message) {
   System().RefreshColors();
-  const auto pass = [](HWND child, LPARAM told) -> BOOL {
-    const auto& sent = *reinterpret_cast<const MSG*>(told);
-    if (sent.message == WM_SYSCOLORCHANGE) SendMessageA(child, sent.message, 0, 0);
-    return TRUE;
-  };
-  MSG told{};
-  told.message = message;
-  told.wParam = first;
-  told.lParam = second;
-  EnumChildWindows(Handle(), pass, reinterpret_cast<LPARAM>(&told));
+  if (message == WM_SYSCOLORCHANGE) EnumChildWindows(Handle(), PassSchemeOn, 0);
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
@@ -308,70 +305,87 @@ LRESULT FormWindow::Closing(UINT message, WPARAM first) {
   return 0;
 }
 
-LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+// What reaches the form's model as an event of its own.
+bool FormWindow::IsEvent(UINT message, WPARAM first, LPARAM second) {
   if (message == System().TaskbarCreatedMessage && IsMain()) {
     System().Raise([this] { System().TaskbarCreated(); });
-    return 0;
+    return true;
   }
+  switch (message) {
+    case WM_COMMAND:
+      if (second != 0) return false;
+      System().Raise([&] {
+        if (Menu* entry = form_.FindMenu(LOWORD(first))) entry->UserClick();
+      });
+      return true;
+    case WM_SIZE:
+      Resized(first);
+      return true;
+    case WM_MOUSEMOVE: {
+      const MouseState mouse = MouseStateOf(first, second, System().TwipsPerPixelX());
+      System().Raise([&] { form_.MouseMove(mouse.Button, mouse.Shift, mouse.X, mouse.Y); });
+      return true;
+    }
+    case WM_TIMER:
+      TimerFires(System(), form_, static_cast<int>(first));
+      return true;
+    default:
+      return false;
+  }
+}
+
+// What moves the focus within the window, or from it and to it.
+bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_SETFOCUS:
+      RestoreFocus();
+      return true;
+    case WM_NEXTDLGCTL: {
+      const bool isHandle = LOWORD(second) != 0;
+      const Control* next = isHandle ? nullptr : NextStop(System().Focus(), first != 0);
+      const auto window = isHandle          ? reinterpret_cast<HWND>(first)
+                          : next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle())
+                                            : Handle();
+      ::SetFocus(window);
+      return true;
+    }
+    case WM_ACTIVATE:
+      if (LOWORD(first) != WA_INACTIVE) {
+        System().Raise([this] { form_.BecomesActive(); });
+      } else if (IsChild(Handle(), GetFocus())) {
+        lastFocus_ = GetFocus();
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
+LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  if (IsEvent(message, first, second) || IsFocusMove(message, first, second)) return 0;
+  if (!Alive()) return 0;
   switch (message) {
     case WM_CLOSE:
     case WM_QUERYENDSESSION:
     case WM_ENDSESSION:
       return Closing(message, first);
-    case WM_COMMAND:
-      if (second == 0) {
-        const int identifier = LOWORD(first);
-        System().Raise([&] {
-          if (Menu* entry = form_.FindMenu(identifier)) entry->UserClick();
-        });
-        return 0;
-      }
-      break;
     case WM_INITMENUPOPUP:
       menus_.Opens(reinterpret_cast<HMENU>(first));
       break;
-    case WM_SIZE:
-      Resized(first);
-      return 0;
-    case WM_ACTIVATE:
-      if (LOWORD(first) == WA_INACTIVE) {
-        if (IsChild(Handle(), GetFocus())) lastFocus_ = GetFocus();
-      } else {
-        System().Raise([this] { form_.BecomesActive(); });
-      }
-      break;
-    case WM_SETFOCUS:
-      RestoreFocus();
-      return 0;
-    case WM_MOUSEMOVE: {
-      const MouseState mouse = MouseStateOf(first, second, System().TwipsPerPixelX());
-      System().Raise([&] { form_.MouseMove(mouse.Button, mouse.Shift, mouse.X, mouse.Y); });
-      return 0;
-    }
     case WM_SETCURSOR:
       if (LOWORD(second) == HTCLIENT && System().ShowPointer(form_.MousePointer())) return TRUE;
       break;
-    case WM_TIMER:
-      TimerFires(System(), form_, static_cast<int>(first));
-      return 0;
-    case WM_NEXTDLGCTL: {
-      const Control* next = NextStop(System().Focus(), first != 0);
-      ::SetFocus(LOWORD(second) != 0 ? reinterpret_cast<HWND>(first)
-                 : next != nullptr   ? reinterpret_cast<HWND>(next->WindowHandle())
-                                     : Handle());
-      return 0;
-    }
     case DM_GETDEFID:
       return DefaultButtonAnswer(form_);
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:
-      SchemeChanged(message, first, second);
+      SchemeChanged(message);
       break;
     default:
       break;
   }
-  return Alive() ? Window::OnMessage(message, first, second) : 0;
+  return Window::OnMessage(message, first, second);
 }
 
 }  // namespace vantrel::forms::win32

@@ -61,7 +61,9 @@ class FormWindow : public Window {
   void LeaveFocus();
   void RestoreFocus();
   void EndModal();
-  void SchemeChanged(UINT message, WPARAM first, LPARAM second);
+  void SchemeChanged(UINT message);
+  bool IsEvent(UINT message, WPARAM first, LPARAM second);
+  bool IsFocusMove(UINT message, WPARAM first, LPARAM second);
   bool IsCovered(const Control& control, const FormWindow& panel) const;
   LRESULT Closing(UINT message, WPARAM first);
 

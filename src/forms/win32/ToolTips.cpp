@@ -2,10 +2,12 @@
 
 #include <commctrl.h>
 
+#include "forms/win32/Scale.h"
+
 namespace vantrel::forms::win32 {
 namespace {
 
-constexpr int WidestTip = 400;  // pixels; longer texts take several lines
+constexpr int WidestTip = 400;  // pixels at 96 dots per inch; longer texts take several lines
 
 }  // namespace
 
@@ -17,7 +19,7 @@ void ToolTips::MakeWindow() {
   if (tips_ != nullptr) return;
   tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0,
                           0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
-  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, WidestTip);
+  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, Scale::OfScreen().Grown(WidestTip));
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {
