@@ -39,6 +39,12 @@ class ProgramTest : public testing::Test {
   }
   void TearDown() override { EndAllCopies(); }
 
+  // The folder of the staged program.
+  static std::string ProgramFolder() {
+    const std::string path = ExecutablePath();
+    return path.substr(0, path.find_last_of('\\'));
+  }
+
   static std::uint32_t Number(const std::string& key, const std::string& name) {
     const auto value = Read(HKEY_CURRENT_USER, key, name);
     if (!value || value->type != REG_DWORD || value->data.size() != 4) return 0xFFFFFFFF;

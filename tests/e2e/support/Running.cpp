@@ -1,16 +1,22 @@
 #include "support/Running.h"
 
+#include <commctrl.h>
 #include <tlhelp32.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <stdexcept>
+
+#include "support/Menus.h"
+#include "support/OwnersMemory.h"
 
 namespace vantrel::e2e {
 namespace {
 
 constexpr DWORD AnswerBound = 20000;
 constexpr UINT TrayMessage = WM_MOUSEMOVE;
+constexpr int CellLength = 256;
 
 struct Enumeration {
   DWORD processId;
@@ -39,14 +45,18 @@ void ForEachWindow(DWORD processId, const std::function<bool(HWND)>& visit) {
   EnumWindows(VisitTopLevel, reinterpret_cast<LPARAM>(&enumeration));
 }
 
+void ForEachTopLevel(DWORD processId, const std::function<bool(HWND)>& visit) {
+  Enumeration enumeration{processId, visit};
+  EnumWindows(VisitWindow, reinterpret_cast<LPARAM>(&enumeration));
+}
+
 bool SendBounded(HWND window, UINT message, WPARAM first, LPARAM second, DWORD_PTR& result) {
   return SendMessageTimeoutA(window, message, first, second, SMTO_BLOCK, AnswerBound, &result) != 0;
 }
 
-std::string ClassOf(HWND window) {
-  char name[64]{};
-  GetClassNameA(window, name, sizeof(name));
-  return name;
+bool IsBox(HWND window) {
+  return ClassOf(window) == "#32770" && IsWindowVisible(window) != FALSE &&
+         ControlNameOf(window).empty();
 }
 
 // A box's text: its static with text.
@@ -62,6 +72,12 @@ std::string BoxText(HWND box) {
 std::string Quoted(const std::string& path) { return '"' + path + '"'; }
 
 }  // namespace
+
+std::string ClassOf(HWND window) {
+  char name[64]{};
+  GetClassNameA(window, name, sizeof(name));
+  return name;
+}
 
 std::string ExecutablePath() {
   const char* fromEnvironment = std::getenv("VANTREL_EXE");
@@ -129,7 +145,13 @@ bool Running::WaitUntilIdle(DWORD bound) const {
 }
 
 HWND Running::Find(const std::string& controlName) const {
-  HWND found = nullptr;
+  HWND& found = known_[controlName];
+  DWORD owner = 0;
+  if (found != nullptr && GetWindowThreadProcessId(found, &owner) != 0 && owner == ProcessId() &&
+      ControlNameOf(found) == controlName) {
+    return found;
+  }
+  found = nullptr;
   ForEachWindow(ProcessId(), [&](HWND window) {
     if (ControlNameOf(window) == controlName) found = window;
     return found == nullptr;
@@ -167,6 +189,21 @@ bool Running::IsEnabled(const std::string& controlName) const {
   return window != nullptr && IsWindowEnabled(window) != FALSE;
 }
 
+bool Running::WaitForText(const std::string& controlName, const std::string& text,
+                          DWORD bound) const {
+  return WaitFor([&] { return TextOf(controlName) == text; }, bound);
+}
+
+bool Running::WaitUntilVisible(const std::string& controlName, bool visible) const {
+  return WaitFor([&] { return IsVisible(controlName) == visible; });
+}
+
+bool Running::Answers() const {
+  DWORD_PTR ignored = 0;
+  HWND window = Find("frmMain");
+  return window != nullptr && SendBounded(window, WM_NULL, 0, 0, ignored);
+}
+
 int Running::CheckOf(const std::string& controlName) const {
   DWORD_PTR state = 0;
   SendBounded(Find(controlName), BM_GETCHECK, 0, 0, state);
@@ -197,8 +234,58 @@ void Running::SetText(const std::string& controlName, const std::string& text) c
   SendBounded(Find(controlName), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()), ignored);
 }
 
-void Running::ChooseMenu(int identifier) const {
-  PostMessageA(Find("frmMain"), WM_COMMAND, MAKEWPARAM(identifier, 0), 0);
+void Running::ChooseMenu(const std::string& entry) const {
+  PostMessageA(Find("frmMain"), WM_COMMAND, MAKEWPARAM(MenuIdentifier(entry), 0), 0);
+}
+
+void Running::PressTool(int index) const {
+  HWND bar = Find("frmMain.Toolbar1");
+  const OwnersMemory memory(Process(), sizeof(RECT));
+  DWORD_PTR known = 0;
+  SendBounded(bar, TB_GETITEMRECT, static_cast<WPARAM>(index - 1), memory.Address(), known);
+  RECT button{};
+  memory.ReadInto(&button, sizeof(button));
+  const LPARAM middle =
+      MAKELPARAM((button.left + button.right) / 2, (button.top + button.bottom) / 2);
+  PostMessageA(bar, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+  PostMessageA(bar, WM_LBUTTONUP, 0, middle);
+}
+
+bool Running::Choose(const std::string& comboName, int index) const {
+  DWORD_PTR chosen = 0;
+  return SendBounded(Find(comboName), CB_SETCURSEL, static_cast<WPARAM>(index), 0, chosen) &&
+         static_cast<int>(chosen) == index;
+}
+
+void Running::PressKey(const std::string& controlName, int key) const {
+  PostMessageA(Find(controlName), WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+  PostMessageA(Find(controlName), WM_KEYUP, static_cast<WPARAM>(key), 0xC0000001);
+}
+
+std::vector<std::string> Running::RowsOf(const std::string& listName, int columns) const {
+  HWND list = Find(listName);
+  DWORD_PTR count = 0;
+  SendBounded(list, LVM_GETITEMCOUNT, 0, 0, count);
+  const OwnersMemory item(Process(), sizeof(LVITEMA));
+  const OwnersMemory text(Process(), CellLength);
+  std::vector<std::string> rows;
+  for (DWORD_PTR row = 0; row < count; ++row) {
+    std::string cells;
+    for (int column = 0; column < columns; ++column) {
+      LVITEMA wanted{};
+      wanted.iSubItem = column;
+      wanted.pszText = reinterpret_cast<char*>(text.Address());
+      wanted.cchTextMax = CellLength;
+      item.Write(&wanted, sizeof(wanted));
+      DWORD_PTR length = 0;
+      SendBounded(list, LVM_GETITEMTEXTA, row, item.Address(), length);
+      std::string cell(std::min<DWORD_PTR>(length, CellLength), '\0');
+      text.ReadInto(cell.data(), cell.size());
+      cells += (column == 0 ? "" : "|") + cell;
+    }
+    rows.push_back(cells);
+  }
+  return rows;
 }
 
 void Running::TrayCallback(int code) const {
@@ -209,14 +296,20 @@ void Running::PressCloseBox() const { PostMessageA(Find("frmMain"), WM_SYSCOMMAN
 
 std::optional<Box> Running::CurrentBox() const {
   std::optional<Box> box;
-  ForEachWindow(ProcessId(), [&](HWND window) {
-    if (ClassOf(window) == "#32770" && IsWindowVisible(window) != FALSE &&
-        ControlNameOf(window).empty()) {
-      box = Box{window, WindowTextOf(window), BoxText(window)};
-    }
+  ForEachTopLevel(ProcessId(), [&](HWND window) {
+    if (IsBox(window)) box = Box{window, WindowTextOf(window), BoxText(window)};
     return !box;
   });
   return box;
+}
+
+std::size_t Running::BoxCount() const {
+  std::size_t count = 0;
+  ForEachTopLevel(ProcessId(), [&](HWND window) {
+    count += IsBox(window) ? 1 : 0;
+    return true;
+  });
+  return count;
 }
 
 std::optional<Box> Running::WaitForBox(DWORD bound) const {

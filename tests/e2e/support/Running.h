@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,6 +51,12 @@ class Running {
   bool IsVisible(const std::string& controlName) const;  // with all its parents
   bool IsShown(const std::string& controlName) const;    // its own state
   bool IsEnabled(const std::string& controlName) const;
+  // Waits until the control's text is this one.
+  bool WaitForText(const std::string& controlName, const std::string& text,
+                   DWORD bound = DefaultBound) const;
+  bool WaitUntilVisible(const std::string& controlName, bool visible = true) const;
+  // Whether the program answers messages now.
+  bool Answers() const;
   int CheckOf(const std::string& controlName) const;
 
   // Clicks as BM_CLICK does and returns when the program has handled it. False if there is no such
@@ -60,14 +67,24 @@ class Running {
   // A mouse click into the middle of a control that is no button (links, labels).
   void MouseClick(const std::string& controlName) const;
   void SetText(const std::string& controlName, const std::string& text) const;
-  // Chooses a menu entry by its identifier, as the menu itself does.
-  void ChooseMenu(int identifier) const;
+  // Chooses an entry of the main window's menus by its name, as the menu itself does.
+  void ChooseMenu(const std::string& entry) const;
+  // A mouse click on the 1-based button of the main window's toolbar.
+  void PressTool(int index) const;
+  // Chooses the 0-based entry of a combo box as a pick from its list does; true when the program
+  // has handled it.
+  bool Choose(const std::string& comboName, int index) const;
+  // A key press for the control or window.
+  void PressKey(const std::string& controlName, int key) const;
+  // The rows of a list with columns, its cells with "|" between them.
+  std::vector<std::string> RowsOf(const std::string& listName, int columns) const;
   // The tray's call with this mouse code.
   void TrayCallback(int code) const;
   void PressCloseBox() const;
 
   // The message box that the program shows now.
   std::optional<Box> CurrentBox() const;
+  std::size_t BoxCount() const;
   // Waits for a box.
   std::optional<Box> WaitForBox(DWORD bound = DefaultBound) const;
   // Presses the box's button and waits until the box is gone.
@@ -75,12 +92,16 @@ class Running {
 
  private:
   PROCESS_INFORMATION process_{};
+  mutable std::map<std::string, HWND> known_;  // what Find has found
 };
 
 // The "ControlName" of a window of any process, empty without one.
 std::string ControlNameOf(HWND window);
 // The text by WM_GETTEXT, which also another process's edit answers.
 std::string WindowTextOf(HWND window);
+
+// The class of a window.
+std::string ClassOf(HWND window);
 
 // Ends every running copy; for sweeping before a case.
 void EndAllCopies();
