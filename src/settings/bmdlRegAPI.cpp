@@ -1,6 +1,5 @@
 #include "settings/bmdlRegAPI.h"
 
-#include "settings/OpenKey.h"
 #include "settings/RegistryConversions.h"
 
 namespace vantrel::settings {
@@ -66,9 +65,11 @@ std::string ReadRegistryString(program::Program& program, KeyHandle root, const 
 std::vector<RegistryRow> EnumerateRegistryValues(Registry& registry, KeyHandle root,
                                                  const std::string& subkey) {
   if (subkey.empty()) return RowsOf(registry, root);
-  const OpenKey key(registry, root, subkey, platform::KeyRead);
-  if (!key.Opened()) return {};
-  return RowsOf(registry, key.Handle());
+  KeyHandle key = 0;
+  if (registry.RegOpenKeyExA(root, subkey, platform::KeyRead, key) != ErrorSuccess) return {};
+  std::vector<RegistryRow> rows = RowsOf(registry, key);
+  registry.RegCloseKey(key);
+  return rows;
 }
 
 }  // namespace vantrel::settings

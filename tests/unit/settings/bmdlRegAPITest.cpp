@@ -53,6 +53,7 @@ TEST_F(BmdlRegAPI, AStringOfAtMostOneByteOrOver255IsEmpty) {
   EXPECT_EQ(Read("255"), std::string(254, 'x'));
   EXPECT_EQ(Read("256"), "");
   EXPECT_EQ(Read("missing"), "");
+  EXPECT_EQ(process.OpenKeys(), 0U);
 }
 
 TEST_F(BmdlRegAPI, AStringOfAMissingKeyIsEmptyWithoutFurtherAction) {
@@ -93,7 +94,16 @@ TEST_F(BmdlRegAPI, AnEnumerationGivesNamesAndDataByType) {
 
 TEST_F(BmdlRegAPI, AnEnumerationOfAMissingKeyIsEmpty) {
   EXPECT_THAT(Rows(HKeyCurrentUser, Key), IsEmpty());
-  EXPECT_THAT(process.Trace().LinesOf("RegEnumValueA"), IsEmpty());
+  EXPECT_THAT(process.Trace().Names(), ElementsAre("RegOpenKeyExA")) << "nothing to close";
+}
+
+TEST_F(BmdlRegAPI, AnEnumerationTakesNamesOf259BytesAndDataOf4096) {
+  const std::string longest(259, 'n');
+  Store(longest, platform::RegBinary, std::string(4096, 'x'));
+  EXPECT_THAT(Rows(HKeyCurrentUser, Key), ElementsAre(longest + "=" + std::string(4096, 'x')));
+  Store(longest + "n", platform::RegBinary, "x");
+  Store("behind", platform::RegBinary, "x");
+  EXPECT_THAT(Rows(HKeyCurrentUser, Key), testing::SizeIs(1));
 }
 
 TEST_F(BmdlRegAPI, AnEnumerationStopsAtTheFirstFailure) {
