@@ -428,6 +428,127 @@ INSTANTIATE_TEST_SUITE_P(
       return name;
     });
 
+// A setting and the one box that shows it.
+struct BoxedValue {
+  const char* Key;
+  const char* Name;
+  forms::CheckBox& (*Box)(program::Windows&);
+};
+
+template <auto Slot, auto Box>
+constexpr BoxedValue In(const char* key, const char* name) {
+  return {key, name,
+          [](program::Windows& windows) -> forms::CheckBox& { return (*(windows.*Slot)).*Box; }};
+}
+
+using program::Windows;
+using BlockPanel = windows::FrmFrameBlockPreferences;
+using GeneralPanel = windows::FrmFrameSettings;
+using NotifyPanel = windows::FrmFrameNotification;
+using WelcomeWindow = windows::FrmFrameMain;
+
+template <auto Box>
+constexpr BoxedValue Blocked(const char* name) {
+  return In<&Windows::FrmFrameBlockPreferences, Box>("Block Settings", name);
+}
+template <auto Box>
+constexpr BoxedValue Notified(const char* name) {
+  return In<&Windows::FrmFrameNotification, Box>("Block Settings", name);
+}
+template <auto Box>
+constexpr BoxedValue Optional(const char* name) {
+  return In<&Windows::FrmFrameSettings, Box>("Settings", name);
+}
+
+const BoxedValue BoxedValues[] = {
+    Blocked<&BlockPanel::chkBPopup>("Popup"),
+    Blocked<&BlockPanel::chkBDhtml>("DHTML"),
+    Blocked<&BlockPanel::chkBDialog>("WebDialog"),
+    Blocked<&BlockPanel::chkBBanner>("Banner"),
+    Blocked<&BlockPanel::chkBFlash>("Flash"),
+    Blocked<&BlockPanel::chkBAdv>("Adv"),
+    Blocked<&BlockPanel::chkBDialogBox>("DialogBox"),
+    Blocked<&BlockPanel::chkBSpyware>("Spy"),
+    Notified<&NotifyPanel::chkNW>("ShowNotification"),
+    Notified<&NotifyPanel::chkNS>("ShowSound"),
+    Notified<&NotifyPanel::chkNPH>("ShowPH"),
+    Notified<&NotifyPanel::chkNPHF>("ShowPHF"),
+    In<&Windows::FrmFrameSettings, &GeneralPanel::chkGLog>("Block Settings", "KeepaLog"),
+    Optional<&GeneralPanel::chkGHideSystray>("HideSystem"),
+    Optional<&GeneralPanel::chkGSWindows>("StartWithWindows"),
+    Optional<&GeneralPanel::chkGUpdate>("CheckUpdates"),
+    Optional<&GeneralPanel::chkGShowToolbar>("ShowBrowser"),
+    In<&Windows::FrmFrameMain, &WelcomeWindow::ChkMinimize>("Settings", "Minimize"),
+};
+
+class EachBoxedValue : public SettingsTree, public testing::WithParamInterface<BoxedValue> {
+ protected:
+  // The store and the boxes agree, and all values can be read.
+  EachBoxedValue() {
+    StoreTree();
+    Notify().cmbsound.SetText("pop");
+    SaveBlockSettings(program);
+    SaveGeneralSettings(program);
+  }
+
+  // The names of the values that two stores do not share.
+  using Store = std::vector<platform::memory::RegistryValue>;
+  static std::vector<std::string> Differences(const Store& one, const Store& other) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < one.size() && i < other.size(); ++i) {
+      if (!(one[i] == other[i])) names.push_back(one[i].name);
+    }
+    return names;
+  }
+  Store Stored() const {
+    Store values = world.registry.Values(HKeyCurrentUser, Tree("Block Settings"));
+    const Store general = world.registry.Values(HKeyCurrentUser, Tree("Settings"));
+    values.insert(values.end(), general.begin(), general.end());
+    return values;
+  }
+  std::vector<int> States() {
+    std::vector<int> states;
+    for (const BoxedValue& row : BoxedValues) states.push_back(row.Box(program.windows).Value());
+    return states;
+  }
+};
+
+TEST_P(EachBoxedValue, IsSavedFromItsBoxAlone) {
+  const Store before = Stored();
+  forms::CheckBox& box = GetParam().Box(program.windows);
+  box.SetValue(1 - box.Value());
+  SaveBlockSettings(program);
+  SaveGeneralSettings(program);
+  EXPECT_THAT(Differences(before, Stored()), ElementsAre(GetParam().Name));
+  EXPECT_EQ(Number(GetParam().Key, GetParam().Name), static_cast<unsigned>(box.Value()));
+}
+
+TEST_P(EachBoxedValue, IsLoadedIntoItsBoxAlone) {
+  std::vector<int> expected = States();
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    if (BoxedValues[i].Box == GetParam().Box) expected[i] = 1 - expected[i];
+  }
+  const auto stored = Number(GetParam().Key, GetParam().Name);
+  SetNumber(GetParam().Key, GetParam().Name, 1 - stored.value_or(0));
+  Load();
+  EXPECT_THAT(States(), ElementsAreArray(expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(, EachBoxedValue, testing::ValuesIn(BoxedValues),
+                         [](const auto& info) { return info.param.Name; });
+
+TEST_F(SettingsTree, AFirstRunKeepsTheTypesOfTheTextsItFinds) {
+  SetNumber("Block Settings", "NSounds", 77);
+  world.registry.Set(HKeyCurrentUser, Tree("Toolbar Settings"), "Toolbar Name", platform::RegBinary,
+                     "x");
+  CheckAndCreateRegitry(program);
+  EXPECT_EQ(Number("Block Settings", "NSounds"), 0U);
+  const auto name = world.registry.Get(HKeyCurrentUser, Tree("Toolbar Settings"), "Toolbar Name");
+  ASSERT_TRUE(name);
+  EXPECT_EQ(name->type, platform::RegBinary);
+  EXPECT_EQ(name->data, "x" + std::string(1023, '\0'));
+}
+
 TEST_F(SettingsTree, AMissingLastValueEndsTheLoadThere) {
   StoreTree();
   SetNumber("Block Settings", "ShowPHF", 1);
