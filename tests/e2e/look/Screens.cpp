@@ -1,0 +1,163 @@
+// Brings up every window of the running copy in turn and has a picture taken of each: a line
+// "shot NAME" or "shot NAME X Y WIDTH HEIGHT" asks for it, and a line of answer says it is taken.
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+#include "Copy.h"
+#include "Scheme.h"
+#include "support/RegistryView.h"
+#include "support/Running.h"
+#include "support/Wait.h"
+
+namespace vantrel::e2e {
+namespace {
+
+constexpr const char* BlockLogKey = "Software\\Qorvel Softwares\\Block Log";
+
+// Numbers worth a picture, for as long as the pictures are taken.
+class SampleCounts {
+ public:
+  SampleCounts() {
+    for (const auto& [name, count] : Samples) Put(name, count);
+  }
+  ~SampleCounts() {
+    for (const auto& [name, count] : Samples) Put(name, 0);
+  }
+  SampleCounts(const SampleCounts&) = delete;
+  SampleCounts& operator=(const SampleCounts&) = delete;
+
+ private:
+  struct Sample {
+    const char* Name;
+    std::uint32_t Count;
+  };
+  static constexpr Sample Samples[] = {
+      {"Popup", 590}, {"DHTML", 454}, {"Webdialog", 255}, {"Bannerads", 663}, {"Flash", 901}};
+  static void Put(const char* name, std::uint32_t count) {
+    Write(HKEY_CURRENT_USER, BlockLogKey, name, Dword(count));
+  }
+};
+
+void Answered() {
+  char line[64];
+  if (std::fgets(line, sizeof line, stdin) == nullptr) std::exit(1);
+}
+
+void Shoot(const std::string& name, HWND window) {
+  const RECT area = OnScreen(window);
+  std::printf("shot %s %ld %ld %ld %ld\n", name.c_str(), area.left, area.top,
+              area.right - area.left, area.bottom - area.top);
+  std::fflush(stdout);
+  Answered();
+}
+
+void Missing(const char* name) {
+  std::printf("%s does not show\n", name);
+  std::fflush(stdout);
+}
+
+// A window of its own over the main window, by its class or name, and what ends it.
+template <class Find>
+void ShootWhenThere(const char* name, Find find) {
+  HWND window = nullptr;
+  if (!WaitFor([&] { return (window = find()) != nullptr && IsWindowVisible(window); }, 5000)) {
+    Missing(name);
+    return;
+  }
+  Shoot(name, window);
+}
+
+void ShootPanels(const Copy& copy, HWND main) {
+  for (const Screen& screen : Panels) {
+    if (!copy.Open(screen)) Missing(screen.Panel);
+    Shoot(screen.Name, main);
+  }
+  copy.Click("frmMain.LnkWelcome");
+}
+
+void ShootHelp(const Copy& copy, HWND main) {
+  copy.Click("frmMain.LnkHelp");
+  WaitFor([&] { return IsWindowVisible(copy.Find("frmMain.frahelp")) != FALSE; }, 5000);
+  // Where no browser is to be had, a box says so.
+  if (HWND box = copy.FindShown("#32770")) SendMessageA(box, WM_CLOSE, 0, 0);
+  copy.Settle();
+  Shoot("help", main);
+}
+
+void ShootDialogs(const Copy& copy) {
+  for (const auto& [name, entry, window] :
+       {std::tuple{"toolbar", "submnuIEToolbar", "frmcustom"},
+        std::tuple{"about", "submnuAbout", "FrmAbout"}}) {
+    copy.Choose(entry);
+    ShootWhenThere(name, [&] { return copy.Find(window); });
+    HWND shown = copy.Find(window);
+    if (shown == nullptr) continue;
+    PostMessageA(shown, WM_CLOSE, 0, 0);
+    WaitFor([&, dialog = window] {
+      HWND still = copy.Find(dialog);
+      return still == nullptr || !IsWindowVisible(still);
+    });
+  }
+}
+
+void ShootMenus(const Copy& copy, HWND main) {
+  const auto menu = [&] { return copy.FindShown("#32768"); };
+  PostMessageA(main, WM_SYSCOMMAND, SC_KEYMENU, 'f');
+  if (WaitFor([&] { return menu() != nullptr; }, 5000)) Shoot("menu", main);
+  PostMessageA(main, WM_CANCELMODE, 0, 0);
+  WaitFor([&] { return menu() == nullptr; }, 5000);
+  SetCursorPos(OnScreen(main).left + 200, OnScreen(main).top + 200);
+  // What the tray sends on a click with the right button.
+  PostMessageA(copy.Find("FrmFrameMain"), WM_MOUSEMOVE, 1, WM_RBUTTONUP);
+  ShootWhenThere("tray", menu);
+  PostMessageA(main, WM_CANCELMODE, 0, 0);
+  WaitFor([&] { return menu() == nullptr; }, 5000);
+}
+
+// Showing the browser's toolbar or not tells of a restart; twice, so that nothing has changed.
+void ShootBox(const Copy& copy) {
+  const auto box = [&] { return copy.FindShown("#32770"); };
+  for (const bool picture : {true, false}) {
+    PostMessageA(copy.Find("FrmFrameSettings.chkGShowToolbar"), BM_CLICK, 0, 0);
+    if (!WaitFor([&] { return box() != nullptr; }, 5000)) return Missing("box");
+    if (picture) Shoot("box", box());
+    SendMessageA(box(), WM_CLOSE, 0, 0);
+    WaitFor([&] { return box() == nullptr; }, 5000);
+  }
+}
+
+void ShootInverted(const Copy& copy, HWND main) {
+  const InvertedScheme inverted;
+  for (const Screen& screen : Panels) {
+    copy.Open(screen);
+    Shoot(std::string("inverted-") + screen.Name, main);
+  }
+}
+
+int TakeAll() {
+  SeeRealPixels();
+  const Copy copy(RunningProcess());
+  HWND main = copy.Find("frmMain");
+  if (main == nullptr) {
+    std::printf("no copy runs\n");
+    return 1;
+  }
+  const SampleCounts counts;
+  WaitFor([&] { return WindowTextOf(copy.Find("FrmFrameMain.lblno")) == "2,863"; }, 5000);
+  ShootPanels(copy, main);
+  ShootHelp(copy, main);
+  copy.Open(Panels[0]);
+  ShootDialogs(copy);
+  ShootMenus(copy, main);
+  ShootBox(copy);
+  ShootInverted(copy, main);
+  copy.Open(Panels[0]);
+  return 0;
+}
+
+}  // namespace
+}  // namespace vantrel::e2e
+
+int main() { return vantrel::e2e::TakeAll(); }
