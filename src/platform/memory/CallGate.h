@@ -23,7 +23,7 @@ class CallGate {
   auto Run(const std::string& name, const std::string& arguments, Act act, OnFault onFault)
       -> decltype(act()) {
     const auto fault = faults.Count(name);
-    const auto result = fault ? onFault(*fault) : act();
+    auto result = fault ? onFault(*fault) : act();
     Record(name, arguments + (arguments.empty() ? "-> " : " -> ") + Show(result));
     return result;
   }
