@@ -85,8 +85,12 @@ Control* Form::NextTabStop(const Control* from, bool backwards) const {
   return at == stops.end() || at + 1 == stops.end() ? stops.front() : *(at + 1);
 }
 
-void Form::EnsureLoaded() {
+void Form::EnsureInitialized() {
   if (!std::exchange(initialized_, true)) Initialize();
+}
+
+void Form::EnsureLoaded() {
+  EnsureInitialized();
   // Initialize may have touched the window and so loaded it already.
   if (std::exchange(loaded_, true)) return;
   peer_ = toolkit_.MakeWindow(*this);

@@ -69,6 +69,8 @@ class Form {
   // Makes the window and raises Load, unless it is loaded. Initialize is raised before the first
   // time only.
   void EnsureLoaded();
+  // Raises Initialize, unless it was raised before.
+  void EnsureInitialized();
   bool Loaded() const { return loaded_; }
   // Raises QueryUnload with the mode, then Unload; either may cancel. Then the window is gone.
   // A window that is in its Unload handler already is left to it.

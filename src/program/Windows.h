@@ -52,7 +52,7 @@ class WindowSlot {
     making_ = true;
     window_ = std::make_unique<Window>(toolkit_);
     for (const auto& attach : attached_) attach(*window_);
-    window_->Initialize();
+    window_->EnsureInitialized();
     making_ = false;
     window_->EnsureLoaded();
   }

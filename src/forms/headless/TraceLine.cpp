@@ -126,11 +126,18 @@ std::string FormWords(const Form& form, Aspect aspect) {
   }
 }
 
+// The parts of a control made of others are told with its name: "frmMain.LnkHelp.lblHyperlink".
+std::string NameOf(const Control& control) {
+  const auto* surface = dynamic_cast<const UserControl*>(control.Container());
+  return surface == nullptr ? control.QualifiedName()
+                            : surface->QualifiedName() + "." + control.Name();
+}
+
 }  // namespace
 
 std::string TraceLine(Control& control, Aspect aspect) {
   const std::string words = KindWords(control, aspect).Words();
-  return control.QualifiedName() + " " + (words.empty() ? CommonWords(control, aspect) : words);
+  return NameOf(control) + " " + (words.empty() ? CommonWords(control, aspect) : words);
 }
 
 std::string TraceLine(const Form& form, Aspect aspect) {
