@@ -77,7 +77,15 @@ void TraceCommand(Program& program, const std::string& command) {
 }  // namespace
 
 void cmdDummy_Click(Program& program) {
-  DispatchCommand(program, program.windows.frmMain->cmdDummy.Caption());
+  // A copy: a sender that found the button earlier may write into it meanwhile.
+  const std::string command = program.windows.frmMain->cmdDummy.Caption();
+  try {
+    DispatchCommand(program, command);
+  } catch (const text::RuntimeError&) {
+    // The box of the error is not the end of the channel.
+    program.windows.frmMain->cmdDummy.SetCaption(ReadyForCommand);
+    throw;
+  }
   program.windows.frmMain->cmdDummy.SetCaption(ReadyForCommand);
 }
 

@@ -120,6 +120,25 @@ TEST_F(CommandChannel, WhileACommandIsDeliveredTheButtonIsNotFound) {
   EXPECT_EQ(during, 0U);
 }
 
+TEST_F(CommandChannel, ATextWrittenDuringADeliveryIsNotTheCommand) {
+  Main().Text1.Change = [this] { Main().cmdDummy.SetCaption("/graph"); };
+  SendFromOutside("/clean");
+  EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
+  EXPECT_FALSE(copy->Windows().FrmFrameGraph->Visible());
+  EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+}
+
+TEST_F(CommandChannel, AnUntrappedErrorOfACommandLeavesTheChannelOpen) {
+  world.registry.Set(platform::HKeyCurrentUser, BlockSettings, "BpId", platform::RegDword, "");
+  SendFromOutside("/onoff");
+  EXPECT_THAT(BoxTexts(*copy),
+              ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+  EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+  StartAgain("/graph");
+  EXPECT_TRUE(Main().Visible());
+  EXPECT_TRUE(copy->Windows().FrmFrameGraph->Visible());
+}
+
 TEST_F(CommandChannel, WithoutAReceiverTheCommandIsLostSilently) {
   Main().cmdDummy.SetCaption("something else");
   auto second = MakeCopy("/clean");
