@@ -84,6 +84,13 @@ std::string ExecutablePath() {
   return fromEnvironment != nullptr ? fromEnvironment : VANTREL_STAGED_EXE;
 }
 
+std::string HelperPath(const std::string& name) {
+  char own[MAX_PATH]{};
+  GetModuleFileNameA(nullptr, own, sizeof(own));
+  const std::string path = own;
+  return path.substr(0, path.find_last_of('\\') + 1) + name;
+}
+
 std::string ControlNameOf(HWND window) {
   const auto atom =
       static_cast<ATOM>(reinterpret_cast<std::uintptr_t>(GetPropA(window, "ControlName")));

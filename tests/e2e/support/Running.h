@@ -17,6 +17,9 @@ namespace vantrel::e2e {
 // The staged executable: VANTREL_EXE in the environment, or the build's own.
 std::string ExecutablePath();
 
+// A program of the tests' own, beside the tests.
+std::string HelperPath(const std::string& name);
+
 // A message box on the screen.
 struct Box {
   HWND window = nullptr;
