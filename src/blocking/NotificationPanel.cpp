@@ -37,6 +37,13 @@ bool IsListed(const forms::ComboBox& list) {
   return false;
 }
 
+// Picks a sound in the user's place; nothing is saved.
+void CorrectSound(Panel& panel) {
+  panel.CorrectingSound = true;
+  panel.cmbsound.SetText("click");
+  panel.CorrectingSound = false;
+}
+
 void SelectSomeSound(Panel& panel) {
   if (panel.chkNS.Value() == forms::Checked && panel.cmbsound.ListIndex() == -1) {
     panel.cmbsound.SetListIndex(0);
@@ -63,21 +70,26 @@ void chkNS_Click(Program& program) {
   SaveNotificationGuarded(program);
 }
 
+void cmbsound_Click(Program& program) {
+  if (program.windows.FrmFrameNotification->CorrectingSound) return;
+  SaveNotificationGuarded(program);
+}
+
 void cmdDefaultNotify_Click(Program& program) {
   Panel& panel = *program.windows.FrmFrameNotification;
   for (const DefaultRow& row : Defaults) (panel.*row.Of).SetValue(row.State);
 }
 
 void cmbsound_Validate(Program& program, bool& keepFocus) {
-  forms::ComboBox& list = program.windows.FrmFrameNotification->cmbsound;
-  if (IsListed(list)) {
+  Panel& panel = *program.windows.FrmFrameNotification;
+  if (IsListed(panel.cmbsound)) {
     SaveNotificationGuarded(program);
     return;
   }
   program.MsgBox("Please select a sound from the list", platform::StyleInformation);
-  list.SetText("click");
+  CorrectSound(panel);
   keepFocus = true;
-  list.SetFocus();
+  panel.cmbsound.SetFocus();
 }
 
 void Label35_Click(Program& program) {
@@ -99,7 +111,7 @@ void Attach(Program& program, Panel& form) {
   form.chkNMC.Click = [&form] { EndSilence(form, form.chkNMC); };
   form.chkNAll.Click = [&program] { chkNAll_Click(program); };
   form.cmdDefaultNotify.Click = [&program] { cmdDefaultNotify_Click(program); };
-  form.cmbsound.Click = [&program] { SaveNotificationGuarded(program); };
+  form.cmbsound.Click = [&program] { cmbsound_Click(program); };
   form.cmbsound.Validate = [&program](bool& keepFocus) { cmbsound_Validate(program, keepFocus); };
   form.Label35.Click = [&program] { Label35_Click(program); };
 }

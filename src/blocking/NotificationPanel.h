@@ -16,8 +16,11 @@ void chkNS_Click(program::Program& program);
 // Sets the four boxes to the recommended notifications; the sound stays.
 void cmdDefaultNotify_Click(program::Program& program);
 
+// Another sound was picked: saves, but not for one that cmbsound_Validate picks.
+void cmbsound_Click(program::Program& program);
+
 // Leaving the list of sounds: saves if its text is an entry or empty; else tells so, picks
-// "click" and keeps the focus.
+// "click" and keeps the focus, and saves nothing.
 void cmbsound_Validate(program::Program& program, bool& keepFocus);
 
 // Plays the chosen sound, whether sounds are on or not.

@@ -102,6 +102,9 @@ class FrmFrameNotification : public forms::Form {
                                         {.Caption = "Default",
                                          .At = Grid(348, 248, 76, 23),
                                          .ToolTipText = "Set the recommended notifications"}};
+
+  // True while the list's text is put right for the user, so that its click saves nothing.
+  bool CorrectingSound = false;
 };
 
 }  // namespace vantrel::windows

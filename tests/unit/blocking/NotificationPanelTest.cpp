@@ -151,6 +151,63 @@ TEST_F(Notification, LeavingTheListSavesForAnEntryAndForNone) {
   EXPECT_THAT(process.Boxes(), IsEmpty());
 }
 
+// The list's own text, past the rule that it is an entry.
+struct ListText : forms::ComboBox {
+  static void Put(forms::ComboBox& list, const std::string& text) {
+    (list.*(&ListText::SetWindowText))(text);
+  }
+};
+
+TEST_F(Notification, LeavingTheListWithATextThatIsNoEntryPicksClickAndSavesNothing) {
+  for (const char* text : {"siren", "POP", "pop "}) {
+    Panel().cmbsound.SetListIndex(-1);
+    ListText::Put(Panel().cmbsound, text);
+    process.Trace().Clear();
+    process.ClearBoxes();
+    EXPECT_FALSE(Panel().cmbsound.UserLeaves()) << "the focus stays";
+    ASSERT_EQ(process.Boxes().size(), 1U);
+    EXPECT_EQ(process.Boxes()[0].text, "Please select a sound from the list");
+    EXPECT_EQ(process.Boxes()[0].style, platform::StyleInformation);
+    EXPECT_EQ(Panel().cmbsound.Text(), "click");
+    EXPECT_EQ(Panel().cmbsound.ListIndex(), 1);
+    EXPECT_EQ(toolkit.Focus(), &Panel().cmbsound);
+    EXPECT_THAT(Writes(), IsEmpty()) << text;
+  }
+  EXPECT_TRUE(Panel().cmbsound.UserLeaves());
+  EXPECT_EQ(BlockSaves(), 1) << "the corrected sound, on leaving again";
+  AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
+  EXPECT_EQ(BlockSaves(), 2) << "picking saves as before";
+}
+
+TEST_F(Notification, PickingAnotherSoundSavesOnceAndTheSameOneNotAtAll) {
+  AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
+  AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
+  EXPECT_EQ(BlockSaves(), 1);
+}
+
+TEST_F(Notification, NothingIsSavedDuringALoad) {
+  program.LoadingSettings = true;
+  for (forms::CheckBox* box : {&Panel().chkNW, &Panel().chkNS, &Panel().chkNPH, &Panel().chkNPHF}) {
+    Click(*box);
+  }
+  AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
+  EXPECT_TRUE(Panel().cmbsound.UserLeaves());
+  EXPECT_THAT(Writes(), IsEmpty());
+  Click(Panel().chkNS);
+  EXPECT_FALSE(Panel().cmbsound.Visible()) << "the other effects happen";
+}
+
+TEST_F(Notification, DefaultSetsItsBoxesInOrder) {
+  Panel().chkNW.SetValue(1);
+  std::vector<std::string> changed;
+  toolkit.Trace = [&](const std::string& line) {
+    if (line.find(" Value=") != std::string::npos) changed.push_back(line.substr(21));
+  };
+  Click(Panel().cmdDefaultNotify);
+  EXPECT_THAT(changed,
+              ElementsAre("chkNW Value=0", "chkNS Value=1", "chkNPH Value=1", "chkNPHF Value=1"));
+}
+
 TEST_F(Notification, TheTestPlaysTheSelectedSoundWhateverTheBox) {
   Panel().cmbsound.SetText("POP");
   Click(Panel().Label35);
