@@ -53,7 +53,7 @@ void ReadBlockLogAtStart(Program& program) {
   if (const auto total = ReadAndShow(program)) program.TotalBlocked = *total;
 }
 
-void InitializeBlockLog(Program& program) {
+void FrmFrameLog::GetBlockLog(Program& program) {
   if (!BlockLogExists(program)) ZeroAndShow(program);
 }
 

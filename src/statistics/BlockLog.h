@@ -36,9 +36,14 @@ void GetBlockLog(program::Program& program);
 // The same, and keeps the total as the one at start-up.
 void ReadBlockLogAtStart(program::Program& program);
 
-// The detail log's own routine: without a block log writes zeros and shows the total of the boxes
-// as they are; with one does nothing. The same errors for a box without a number.
-void InitializeBlockLog(program::Program& program);
+namespace FrmFrameLog {
+
+// The detail log's own routine of that name, which is meant to read nothing: without a block log
+// it writes zeros and shows the total of the boxes as they are; with one it does nothing. The same
+// errors for a box without a number.
+void GetBlockLog(program::Program& program);
+
+}  // namespace FrmFrameLog
 
 // The other way round: with a block log writes zeros and shows the total of the boxes.
 void ClearBlockLog(program::Program& program);

@@ -41,7 +41,7 @@ void Command11_Click(Program& program) {
 void Attach(Program& program, windows::FrmFrameLog& form) {
   form.Load = [&program, &form] {
     program::HostPanel(program, form);
-    RefreshDetailLog(program);
+    FrmFrameLog::RefreshCounters(program);
   };
   form.lblResetLog.Click = [&program] { lblResetLog_Click(program); };
   form.Label54.Click = [&program] { launch::OpenLogFile(program); };

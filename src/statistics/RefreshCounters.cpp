@@ -73,6 +73,6 @@ void Refresh(Program& program, void (*read)(Program&)) {
 
 void RefreshCounters(Program& program) { Refresh(program, GetBlockLog); }
 
-void RefreshDetailLog(Program& program) { Refresh(program, InitializeBlockLog); }
+void FrmFrameLog::RefreshCounters(Program& program) { Refresh(program, FrmFrameLog::GetBlockLog); }
 
 }  // namespace vantrel::statistics

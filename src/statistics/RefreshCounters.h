@@ -11,8 +11,12 @@ namespace vantrel::statistics {
 // while such a box is up a further error is silent, so that boxes never pile up.
 void RefreshCounters(program::Program& program);
 
-// The detail log's own: it begins with InitializeBlockLog instead.
-void RefreshDetailLog(program::Program& program);
+namespace FrmFrameLog {
+
+// The detail log's own: it begins with the GetBlockLog of that panel instead.
+void RefreshCounters(program::Program& program);
+
+}  // namespace FrmFrameLog
 
 }  // namespace vantrel::statistics
 

@@ -162,15 +162,27 @@ TEST_F(Statistics, TheFirstReadBringsBothPanelsIntoBeingHidden) {
 
 TEST_F(Statistics, TheDetailLogsOwnReadWritesZerosOnlyWithoutABlockLog) {
   Open({1, 2, 3, 4, 5});
-  InitializeBlockLog(program);
+  FrmFrameLog::GetBlockLog(program);
   EXPECT_THAT(Writes(), IsEmpty());
   RemoveValue("Block Log", "Popup");
-  InitializeBlockLog(program);
+  FrmFrameLog::GetBlockLog(program);
   EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
   EXPECT_THAT(Writes(), testing::SizeIs(5));
   EXPECT_EQ(Writes()[0], "Block Log \"Popup\" 4 0 0 0 0 -> 0");
   EXPECT_EQ(Writes()[4], "Block Log \"Flash\" 4 0 0 0 0 -> 0");
   EXPECT_EQ(Total(), "Total: 15 Ads blocked.") << "of the boxes, not of the zeros";
+}
+
+TEST_F(Statistics, TheDetailLogMadeFirstOverAnEmptyKeyFillsIt) {
+  world.registry.MakeKey(platform::HKeyCurrentUser, Tree("Block Log"));
+  Log();
+  EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
+}
+
+TEST_F(Statistics, WithoutItsKeyTheDetailLogsOwnReadCreatesNone) {
+  Log();
+  EXPECT_FALSE(world.registry.HasKey(platform::HKeyCurrentUser, Tree("Block Log")));
+  EXPECT_THAT(process.Boxes(), IsEmpty());
 }
 
 TEST_F(Statistics, ClearingWritesZerosOnlyWithABlockLog) {
@@ -322,6 +334,36 @@ TEST_F(ResetLog, WithoutTheFirstCounterClearsTheFileAndTheBoxesOnly) {
   EXPECT_THAT(Boxes(), ElementsAre("0", "0", "0", "0", "0"));
   EXPECT_THAT(Writes(), IsEmpty());
   EXPECT_THAT(BoxTexts(), ElementsAre("Log cleared"));
+}
+
+TEST_F(ResetLog, WithAFirstCounterOfNoBytesEndsInItsErrorBehindTheFileAndTheBoxes) {
+  Open({1, 2, 3, 4, 5});
+  world.registry.Set(platform::HKeyCurrentUser, Tree("Block Log"), "Popup", platform::RegDword, "");
+  Reset();
+  EXPECT_THAT(BoxTexts(),
+              ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+  EXPECT_EQ(world.files.Read(LogFile), "\r\n");
+  EXPECT_THAT(Boxes(), ElementsAre("0", "0", "0", "0", "0"));
+  EXPECT_EQ(Number("Block Log", "Flash"), 5U);
+}
+
+TEST_F(ResetLog, EmptiesAHugeFile) {
+  world.files.Put(LogFile, std::string(1 << 22, 'x'));
+  Open({1, 2, 3, 4, 5});
+  Reset();
+  EXPECT_EQ(world.files.Read(LogFile), "\r\n");
+}
+
+TEST_F(ResetLog, TellsItsEndOnlyWhenEverythingIsDone) {
+  Open({1, 2, 3, 4, 5});
+  bool told = false;
+  process.WhileBoxIsUp = [&](const auto&) {
+    told = true;
+    EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
+  };
+  Reset();
+  process.WhileBoxIsUp = nullptr;
+  EXPECT_TRUE(told);
 }
 
 TEST_F(ResetLog, OfALockedOrReadOnlyFileTellsTheErrorAndLeavesTheCounters) {
