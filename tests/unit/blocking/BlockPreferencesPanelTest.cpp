@@ -2,6 +2,8 @@
 // often each click saves.
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "blocking/Attach.h"
 #include "blocking/BlockPreferencesPanel.h"
 #include "settings/FirstRun.h"
@@ -62,6 +64,19 @@ class BlockPreferences : public test::RoomFixture {
   std::optional<std::uint32_t> Zone(const std::string& policy) const {
     return world.registry.GetDword(HKeyCurrentUser, ZoneKey, policy);
   }
+  // What the boxes become, in the order of the changes, e.g. "chkBFlash 0".
+  std::vector<std::string> ChangesOf(const std::function<void()>& act) {
+    std::vector<std::string> changes;
+    toolkit.Trace = [&](const std::string& line) {
+      const auto value = line.find(" Value=");
+      if (value == std::string::npos) return;
+      const auto name = line.find('.') + 1;
+      changes.push_back(line.substr(name, value - name) + " " + line.substr(value + 7));
+    };
+    act();
+    toolkit.Trace = nullptr;
+    return changes;
+  }
   void Choose(const std::string& preset) { Panel().cmbinternet.SetText(preset); }
 };
 
@@ -88,6 +103,49 @@ TEST_F(BlockPreferences, TickingTheLastOfTheSixTicksTheMasterWithoutACascade) {
   EXPECT_EQ(Panel().chkBDialogBox.Value(), 0);
   EXPECT_EQ(BlockSaves(), 1);
   EXPECT_FALSE(Panel().cmdsave.Enabled());
+}
+
+TEST_F(BlockPreferences, EachOfTheSixClearsTheMasterWithoutACascadeAndTicksItAgain) {
+  for (CheckBox* box : Six()) {
+    TickAll();
+    AsEvent([&] { box->UserClick(); });
+    EXPECT_EQ(Panel().chkAll.Value(), 0) << box->Name();
+    EXPECT_EQ(BlockSaves(), 1) << box->Name();
+    AsEvent([&] { box->UserClick(); });
+    EXPECT_EQ(Panel().chkAll.Value(), 1) << box->Name();
+    EXPECT_EQ(BlockSaves(), 2) << box->Name();
+  }
+}
+
+TEST_F(BlockPreferences, ThePanelIsBusyWhileABoxsHandlerRuns) {
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  int shown = 0;
+  process.WhileBoxIsUp = [&](const auto&) {
+    ++shown;
+    EXPECT_TRUE(Panel().PanelBusy);
+    Panel().chkAll.UserClick();
+  };
+  AsEvent([&] { Panel().chkBDhtml.UserClick(); });
+  process.WhileBoxIsUp = nullptr;
+  EXPECT_EQ(shown, 1);
+  EXPECT_FALSE(Panel().PanelBusy);
+  EXPECT_THAT(States(), ElementsAre(1, 0, 1, 1, 1, 0, 1, 1)) << "the master started no cascade";
+}
+
+TEST_F(BlockPreferences, TheMasterIsRecomputedBeforeTheSave) {
+  TickAll();
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  process.WhileBoxIsUp = [&](const auto&) { EXPECT_EQ(Panel().chkAll.Value(), 0); };
+  AsEvent([&] { Panel().chkBFlash.UserClick(); });
+  EXPECT_THAT(process.Boxes(), testing::SizeIs(1));
+  process.WhileBoxIsUp = nullptr;
+}
+
+TEST_F(BlockPreferences, AGrayedBoxNeitherTouchesTheServiceNorTheZone) {
+  Panel().chkBDialogBox.SetValue(2);
+  Panel().chkBSpyware.SetValue(2);
+  EXPECT_THAT(ForeignWrites(), IsEmpty());
+  EXPECT_EQ(BlockSaves(), 2);
 }
 
 TEST_F(BlockPreferences, AGrayedBoxIsNotTickedForTheMaster) {
@@ -238,6 +296,31 @@ INSTANTIATE_TEST_SUITE_P(, Presets,
                                          PresetCase{
                                              "High Speed /T1 Line", {1, 1, 1, 1, 1, 0, 1, 1}, 0}));
 
+TEST_F(BlockPreferences, APresetSetsItsBoxesInItsOwnOrder) {
+  Set({&Panel().chkBPopup, &Panel().chkBDialog, &Panel().chkBFlash}, 0);
+  EXPECT_THAT(
+      ChangesOf([&] { Choose("Dial Up"); }),
+      ElementsAre("chkBPopup 1", "chkBDialog 1", "chkBFlash 1", "chkBBanner 0", "chkBDhtml 0"));
+  Set({&Panel().chkBPopup, &Panel().chkBDialog, &Panel().chkBFlash}, 0);
+  Panel().chkBDhtml.SetValue(1);
+  EXPECT_THAT(
+      ChangesOf([&] { Choose("DSL/Cable"); }),
+      ElementsAre("chkBPopup 1", "chkBDialog 1", "chkBBanner 1", "chkBFlash 1", "chkBDhtml 0"));
+  Set(Six(), 0);
+  EXPECT_THAT(
+      ChangesOf([&] { Choose("High Speed /T1 Line"); }),
+      ElementsAre("chkBPopup 1", "chkBDialog 1", "chkBBanner 1", "chkBFlash 1", "chkBDhtml 1"));
+}
+
+TEST_F(BlockPreferences, APresetOverTheMasterRunsTheWholeCascadeFirst) {
+  TickAll();
+  EXPECT_THAT(ChangesOf([&] { Choose("Dial Up"); }),
+              ElementsAre("chkAll 0", "chkBDhtml 0", "chkBDialog 0", "chkBFlash 0", "chkBBanner 0",
+                          "chkBPopup 0", "chkBAdv 0", "chkBDialogBox 0", "chkBSpyware 0",
+                          "chkBPopup 1", "chkBDialog 1", "chkBFlash 1"));
+  EXPECT_EQ(BlockSaves(), 11);
+}
+
 TEST_F(BlockPreferences, HighSpeedWithSecureSitesTickedEndsWithTheMasterTicked) {
   Panel().chkBAdv.SetValue(1);
   Panel().chkBPopup.SetValue(0);
@@ -255,6 +338,15 @@ TEST_F(BlockPreferences, CustomAndAnythingElseDoNothing) {
 
 TEST_F(BlockPreferences, APresetIsAppliedWhenPickedFromTheList) {
   Panel().cmbinternet.SetListIndex(1);
+  EXPECT_THAT(States(), ElementsAre(1, 0, 1, 0, 1, 0, 1, 1));
+}
+
+TEST_F(BlockPreferences, APresetIsAppliedWhenItsNameIsTypedToTheEnd) {
+  for (const char* typed : {"D", "Dial", "Dial U"}) {
+    Panel().cmbinternet.AssignWindowText(typed);
+    EXPECT_THAT(Writes(), IsEmpty());
+  }
+  Panel().cmbinternet.AssignWindowText("Dial Up");
   EXPECT_THAT(States(), ElementsAre(1, 0, 1, 0, 1, 0, 1, 1));
 }
 

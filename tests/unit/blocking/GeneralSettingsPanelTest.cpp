@@ -155,6 +155,37 @@ TEST_F(GeneralSettings, TheToolbarBoxTellsSavesAndActsAtOnce) {
   EXPECT_FALSE(Panel().lblviewtoolbar.Visible());
 }
 
+TEST_F(GeneralSettings, TheToolbarBoxTellsFirstThenSavesThenWritesTheEntry) {
+  Panel().chkGShowToolbar.SetValue(0);
+  process.Trace().Clear();
+  process.WhileBoxIsUp = [&](const auto&) { EXPECT_THAT(Writes(), IsEmpty()); };
+  Click(Panel().chkGShowToolbar);
+  process.WhileBoxIsUp = nullptr;
+  const std::vector<std::string> writes = Writes();
+  ASSERT_EQ(writes.size(), 18U);
+  EXPECT_EQ(writes[0], "Block Settings \"BpID\" 4 1 0 0 0 -> 0");
+  EXPECT_EQ(ForeignWrites(), std::vector<std::string>(writes.end() - 2, writes.end()));
+}
+
+TEST_F(GeneralSettings, TheToolbarBoxActsAlsoWhenItsSaveFails) {
+  world.registry.SetString(HKeyLocalMachine, ToolbarKey, ToolbarId, "Vantrel Toolbar");
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  Click(Panel().chkGShowToolbar);
+  EXPECT_THAT(BoxTexts(),
+              ElementsAre(RestartText, "Error occured: Invalid procedure call or argument"));
+  EXPECT_EQ(Toolbar(), std::nullopt);
+}
+
+TEST_F(GeneralSettings, AGrayedToolbarOrScriptBoxCountsAsClear) {
+  world.registry.SetString(HKeyLocalMachine, ToolbarKey, ToolbarId, "Vantrel Toolbar");
+  Panel().lblviewtoolbar.SetVisible(true);
+  Panel().chkGShowToolbar.SetValue(2);
+  EXPECT_EQ(Toolbar(), std::nullopt);
+  EXPECT_FALSE(Panel().lblviewtoolbar.Visible());
+  Panel().chkScript.SetValue(2);
+  EXPECT_EQ(Script(), "no");
+}
+
 TEST_F(GeneralSettings, TheToolbarBoxReachesTheStoreWithTheNextGeneralSave) {
   Click(Panel().chkGShowToolbar);
   EXPECT_EQ(GeneralSaves(), 0);

@@ -70,6 +70,14 @@ TEST_F(WelcomePanel, TestStartsAgainAndOpensTheTestPage) {
   EXPECT_EQ(world.programs.Started()[0].arguments, launch::TestPage);
 }
 
+TEST_F(WelcomePanel, TestOpensNoPageWhenTheStartFails) {
+  world.registry.Set(HKeyCurrentUser, Tree("Block Settings"), "BpId", platform::RegSz, "");
+  Click(Panel().cmdtest);
+  EXPECT_THAT(BoxTexts(),
+              ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+  EXPECT_THAT(world.programs.Started(), IsEmpty());
+}
+
 TEST_F(WelcomePanel, TestWhileStoppedStartsFirst) {
   Click(Panel().cmdstop);
   Click(Panel().cmdtest);
@@ -218,6 +226,22 @@ INSTANTIATE_TEST_SUITE_P(
         BadCounter{"Above16Bits", platform::RegDword, std::string("\x10\x20\x11\0", 4), "Overflow"},
         BadCounter{"Above31Bits", platform::RegDword, "\xFF\xFF\xFF\xFF", "Overflow"}),
     [](const auto& info) { return info.param.Name; });
+
+TEST_F(WelcomePanel, ABlockLogDeletedWhileATickReadsIsATypeMismatchOnce) {
+  SetNumber("Block Log", "Popup", 3);
+  Tick();
+  for (std::size_t read = 2; read <= 6; ++read) {
+    process.ClearBoxes();
+    process.Faults().FailCall("RegOpenKeyExA", read, platform::ErrorFileNotFound);
+    Tick();
+    EXPECT_THAT(BoxTexts(), ElementsAre("Type mismatch")) << "at read " << read;
+    EXPECT_EQ(Panel().lblno.Caption(), "3");
+  }
+  process.ClearBoxes();
+  Tick();
+  EXPECT_THAT(process.Boxes(), IsEmpty());
+  EXPECT_EQ(Rows()[0], "Popup Windows=3");
+}
 
 TEST_F(WelcomePanel, ADeletedCounterIsATypeMismatch) {
   RemoveValue("Block Log", "DHTML");
