@@ -5,6 +5,7 @@
 
 #include "forms/Controls.h"
 #include "forms/UserControl.h"
+#include "forms/win32/AwaitedPeer.h"
 #include "forms/win32/FormLayout.h"
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Painting.h"
@@ -56,7 +57,6 @@ BOOL CALLBACK PassSchemeOn(HWND child, LPARAM) {
 std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form) {
   auto window = std::make_shared<FormWindow>(system, form);
   window->CreateHidden();
-  window->MakeControls();
   return std::make_unique<Peer>(std::move(window));
 }
 
@@ -104,10 +104,26 @@ WindowShape FormWindow::Shape() const {
 void FormWindow::CreateHidden() {
   Create(Shape(), form_.Name());
   tips_.SetOwner(Handle());
-  if (!IsPanel()) menus_.PutInto(Handle());
+  AwaitControls();
+}
+
+// A timer needs no window but the form's.
+void FormWindow::AwaitControls() {
+  int identifier = 0;
+  for (Control* control : form_.Controls()) {
+    ++identifier;
+    if (auto* timer = dynamic_cast<Timer*>(control)) {
+      timer->AttachPeer(MakeTimerPeer(*timer, Handle(), identifier));
+    } else {
+      control->AttachPeer(std::make_unique<AwaitedPeer>(*this, *control));
+    }
+  }
+  System().Await(*this);
 }
 
 void FormWindow::MakeControls() {
+  if (!Alive() || std::exchange(made_, true)) return;
+  if (!IsPanel()) menus_.PutInto(Handle());
   int identifier = 0;
   for (Control* control : form_.Controls())
     MakeControlWindow(System(), *control, Handle(), ++identifier);
@@ -154,6 +170,7 @@ void FormWindow::ShowVisible() {
     ShowWindow(Handle(), SW_HIDE);
     return;
   }
+  MakeControls();
   if (!std::exchange(placed_, true)) Center();
   ShowWindow(Handle(), ShowCommand());
   PaintAtOnce();
@@ -244,7 +261,7 @@ void FormWindow::EndModal() {
 }
 
 void FormWindow::LayOut() {
-  if (IsMain() && Alive()) LayOutMain(form_, Handle(), System().Pixels);
+  if (IsMain() && made_ && Alive()) LayOutMain(form_, Handle(), System().Pixels);
 }
 
 void FormWindow::Resized(WPARAM kind) {

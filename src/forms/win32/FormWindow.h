@@ -23,6 +23,8 @@ class FormWindow : public Window {
   void CreateHidden();
   // Ends the window, and before it the dialog that it may be running.
   void Close();
+  // Makes the menu bar and the windows of the controls, unless that is done. It is done when the
+  // form is shown, when one of them is asked for, or before the program waits for messages.
   void MakeControls();
   void Changed(Aspect aspect);
   void BecomeChild();
@@ -50,6 +52,7 @@ class FormWindow : public Window {
   bool IsMain() const { return form_.Designed().Frame == Border::Sizable; }
   WindowShape Shape() const;
   HWND DialogOwner() const;
+  void AwaitControls();
   void ShowVisible();
   void ShowPlace();
   void ShowState();
@@ -74,6 +77,7 @@ class FormWindow : public Window {
   std::vector<HWND> disabled_;  // by a modal dialog, while it runs
   bool modal_ = false;
   bool placed_ = false;
+  bool made_ = false;  // the controls' windows
 };
 
 std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form);

@@ -16,7 +16,6 @@
 #include "forms/win32/SpokenName.h"
 #include "forms/win32/StatusBarWindow.h"
 #include "forms/win32/TextBoxWindow.h"
-#include "forms/win32/TimerWindow.h"
 #include "forms/win32/ToolbarWindow.h"
 #include "forms/win32/UserControlWindow.h"
 
@@ -48,9 +47,8 @@ class Maker final : public ControlVisitor {
   void Visit(ProgressBar& control) override { MakeNamed<ProgressWindow>(control); }
   void Visit(StatusBar& control) override { Make<StatusBarWindow>(control); }
   void Visit(TextBox& control) override { MakeNamed<TextBoxWindow>(control); }
-  void Visit(Timer& control) override {
-    control.AttachPeer(MakeTimerPeer(control, system_.FormAround(parent_)->Handle(), identifier_));
-  }
+  // Has no window.
+  void Visit(Timer&) override {}
   void Visit(Toolbar& control) override { Make<ToolbarWindow>(control); }
   void Visit(UserControl& control) override { Make<UserControlWindow>(control); }
 

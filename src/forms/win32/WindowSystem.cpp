@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "forms/win32/FormWindow.h"
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Window.h"
@@ -50,6 +52,7 @@ void WindowSystem::RunMessageLoop() {
 void WindowSystem::RunWhile(const std::function<bool()>& goesOn) {
   MSG message;
   while (!Ending() && goesOn()) {
+    MakeAwaited();
     const BOOL received = GetMessageA(&message, nullptr, 0, 0);
     if (received <= 0) {
       // Told to quit: the outer loops are to end as well.
@@ -104,6 +107,18 @@ std::shared_ptr<FormWindow> WindowSystem::FormAround(HWND control) const {
 void WindowSystem::Add(HWND window, Window& object) { windows_[window] = &object; }
 
 void WindowSystem::Remove(HWND window) { windows_.erase(window); }
+
+void WindowSystem::Await(FormWindow& form) { awaited_.push_back(form.weak_from_this()); }
+
+void WindowSystem::MakeAwaited() {
+  // Making may load further forms.
+  while (!awaited_.empty()) {
+    for (const std::weak_ptr<Window>& awaited : std::exchange(awaited_, {})) {
+      const auto form = std::dynamic_pointer_cast<FormWindow>(awaited.lock());
+      if (form != nullptr) form->MakeControls();
+    }
+  }
+}
 
 void WindowSystem::RefreshColors() { Palette.Refresh(); }
 

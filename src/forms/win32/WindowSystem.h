@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 #include "forms/win32/Colors.h"
 #include "forms/win32/Fonts.h"
@@ -40,6 +41,8 @@ class WindowSystem final : public Win32Toolkit {
   std::shared_ptr<FormWindow> FormAround(HWND control) const;
   void Add(HWND window, Window& object);
   void Remove(HWND window);
+  // The form's controls are to be made before the program waits for messages.
+  void Await(FormWindow& form);
 
   // The user's scheme has changed.
   void RefreshColors();
@@ -58,8 +61,10 @@ class WindowSystem final : public Win32Toolkit {
 
  private:
   void Dispatch(MSG& message);
+  void MakeAwaited();
 
   std::unordered_map<HWND, Window*> windows_;
+  std::vector<std::weak_ptr<Window>> awaited_;
   bool quitPosted_ = false;
 };
 
