@@ -14,16 +14,7 @@ const std::string& CountText(Program& program, const Counter& counter) {
   return ((*program.windows.FrmFrameGraph).*counter.Box).Text();
 }
 
-bool RowsAreCurrent(Program& program, const forms::ListView& list) {
-  if (list.Count() != static_cast<int>(Counters.size())) return false;
-  int row = 0;
-  for (const Counter& counter : Counters) {
-    if (list.Item(++row).Sub(1).Text != CountText(program, counter)) return false;
-  }
-  return true;
-}
-
-void RebuildRows(Program& program, forms::ListView& list) {
+void AddRows(Program& program, forms::ListView& list) {
   list.Clear();
   for (const Counter& counter : Counters) {
     const std::string count = CountText(program, counter);
@@ -31,14 +22,22 @@ void RebuildRows(Program& program, forms::ListView& list) {
   }
 }
 
-// A list that would come out as it is stays, so that nothing is repainted; like a fresh one it has
-// its first row selected.
+// Only the counts that differ are touched, so that nothing else is repainted.
+void UpdateRows(Program& program, forms::ListView& list) {
+  int row = 0;
+  for (const Counter& counter : Counters) {
+    list.Item(++row).SetSubText(1, CountText(program, counter));
+  }
+}
+
+// The rows come out as freshly added ones, with the first selected.
 void ShowRows(Program& program) {
   forms::ListView& list = program.windows.FrmFrameLog->lstLog;
-  if (!RowsAreCurrent(program, list)) {
-    RebuildRows(program, list);
-  } else if (list.SelectedIndex() != 1) {
+  if (list.Count() == static_cast<int>(Counters.size())) {
+    UpdateRows(program, list);
     list.Select(1);
+  } else {
+    AddRows(program, list);
   }
 }
 

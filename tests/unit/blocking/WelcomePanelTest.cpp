@@ -127,6 +127,18 @@ TEST_F(WelcomePanel, ATickWithoutNewsRepaintsNothing) {
   EXPECT_THAT(changes, IsEmpty());
 }
 
+TEST_F(WelcomePanel, ATickShowsOnlyWhatChanged) {
+  Tick();
+  SetNumber("Block Log", "DHTML", 2);
+  std::vector<std::string> changes;
+  toolkit.Trace = [&](const std::string& line) {
+    changes.push_back(line.substr(0, line.find_first_of(" (")));
+  };
+  Tick();
+  EXPECT_THAT(changes, ElementsAre("FrmFrameGraph.txtDHTML", "FrmFrameGraph.lbltotallog",
+                                   "FrmFrameMain.lblno", "FrmFrameLog.lstLog"));
+}
+
 TEST_F(WelcomePanel, TheDisplaysFollowTheEngineWithinOneTickAlsoWhileStopped) {
   Click(Panel().cmdstop);
   SetNumber("Block Log", "Popup", 3);
