@@ -6,6 +6,7 @@
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
+#include "platform/Modules.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
@@ -23,6 +24,7 @@ struct Platform {
   Sound& sound;
   Dialogs& dialogs;
   System& system;
+  Modules& modules;
 };
 
 }  // namespace vantrel::platform

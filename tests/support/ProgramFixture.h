@@ -54,7 +54,9 @@ struct Copy {
       : process(world, executable, commandLine),
         toolkit(world.desktop, world.clock, process.Id()),
         program(process.Platform(), toolkit),
-        user(toolkit) {}
+        user(toolkit) {
+    process.EndThread = [this] { toolkit.End(); };
+  }
 
   program::Windows& Windows() { return program.windows; }
 

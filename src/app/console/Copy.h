@@ -20,7 +20,9 @@ class Copy {
         Toolkit(world.desktop, world.clock, Process.Id()),
         Program(Process.Platform(), Toolkit),
         Hand(Toolkit),
-        Number(number) {}
+        Number(number) {
+    Process.EndThread = [this] { Toolkit.End(); };
+  }
 
   bool Ended() const { return Toolkit.Ending(); }
 

@@ -7,6 +7,7 @@
 #include "platform/memory/CallGate.h"
 #include "platform/memory/Fold.h"
 #include "platform/memory/Misuse.h"
+#include "platform/memory/ModulesView.h"
 #include "platform/memory/RegistryView.h"
 
 namespace vantrel::platform::memory {
@@ -367,7 +368,8 @@ struct Process::Families {
                 FolderOf(executable),
                 NameOf(executable),
                 tail},
-        dialogs(context, process) {}
+        dialogs(context, process),
+        modules(world, context.id, context.gate, process.EndThread) {}
 
   Context context;
   RegistryView registry{context.world.registry, context.gate};
@@ -378,6 +380,7 @@ struct Process::Families {
   SoundView sound{context};
   DialogsView dialogs;
   SystemView system{context};
+  ModulesView modules;
 };
 
 Process::Process(World& world, const std::string& executable, const std::string& commandLineTail)
@@ -394,8 +397,8 @@ Process::~Process() {
 
 platform::Platform Process::Platform() {
   Families& all = *families_;
-  return {all.registry,  all.desktop, all.shell,   all.files,
-          all.processes, all.sound,   all.dialogs, all.system};
+  return {all.registry, all.desktop, all.shell,  all.files,  all.processes,
+          all.sound,    all.dialogs, all.system, all.modules};
 }
 
 ProcessId Process::Id() const { return families_->context.id; }
@@ -418,5 +421,16 @@ FaultPlan& Process::Faults() { return families_->context.gate.faults; }
 memory::Trace& Process::Trace() { return families_->context.gate.trace; }
 
 std::size_t Process::OpenKeys() const { return families_->registry.OpenKeys(); }
+
+std::size_t Process::OpenThreads() const { return families_->modules.OpenThreads(); }
+
+std::optional<std::uint32_t> Process::ThreadExitCode() const {
+  return families_->modules.ThreadExitCode();
+}
+
+bool Process::Alive() const {
+  const Context& context = families_->context;
+  return !ThreadExitCode() || context.world.libraries.RunningThreads(context.id) != 0;
+}
 
 }  // namespace vantrel::platform::memory

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,16 @@ class Process {
   memory::Trace& Trace();
 
   std::size_t OpenKeys() const;
+  std::size_t OpenThreads() const;
+
+  // Leaves the process's own thread when that calls ExitThread: there is no stack here that could
+  // just vanish, so it must throw what unwinds the program, and not come back. The windows and
+  // timers are gone by then.
+  std::function<void()> EndThread;
+  // The code that the process's own thread has ended with; absent while it runs.
+  std::optional<std::uint32_t> ThreadExitCode() const;
+  // Whether any thread of the process runs: its own, or one in a library that hangs.
+  bool Alive() const;
 
  private:
   struct Families;

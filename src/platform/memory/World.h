@@ -1,7 +1,7 @@
 // The in-memory Windows: all that its processes share. Any number of processes live in one world,
 // on one thread; it holds no global state, so worlds are independent of each other. What each part
-// does not model stands in its own header; the world as a whole has no threads, no users but one,
-// no sessions and no network.
+// does not model stands in its own header; the world as a whole has no threads but those that
+// Libraries tells of, no users but one, no sessions and no network.
 #ifndef VANTREL_PLATFORM_MEMORY_WORLD_H_
 #define VANTREL_PLATFORM_MEMORY_WORLD_H_
 
@@ -15,6 +15,7 @@
 #include "platform/memory/Clock.h"
 #include "platform/memory/Desktop.h"
 #include "platform/memory/FileTree.h"
+#include "platform/memory/Libraries.h"
 #include "platform/memory/Programs.h"
 #include "platform/memory/RegistryTree.h"
 #include "platform/memory/Tray.h"
@@ -38,7 +39,7 @@ struct OpenedDocument {
 };
 
 struct World {
-  World() : programs(files) {}
+  World() : programs(files), libraries(files) {}
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
@@ -47,6 +48,7 @@ struct World {
   Clock clock;
   FileTree files;
   Programs programs;
+  Libraries libraries;
   Tray tray;
 
   std::vector<PlayedSound> playedSounds;

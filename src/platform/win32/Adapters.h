@@ -17,6 +17,7 @@ std::unique_ptr<Processes> MakeProcesses();
 std::unique_ptr<Sound> MakeSound();
 std::unique_ptr<Dialogs> MakeDialogs();
 std::unique_ptr<System> MakeSystem();
+std::unique_ptr<Modules> MakeModules();
 
 // A command line's program, without its quotes, and what stands behind it and the blanks after it.
 struct CommandLineParts {

@@ -8,7 +8,8 @@ namespace {
 class AllFamilies : public Win32Platform {
  public:
   platform::Platform Platform() override {
-    return {*registry_, *desktop_, *shell_, *files_, *processes_, *sound_, *dialogs_, *system_};
+    return {*registry_, *desktop_, *shell_,  *files_,  *processes_,
+            *sound_,    *dialogs_, *system_, *modules_};
   }
 
  private:
@@ -20,6 +21,7 @@ class AllFamilies : public Win32Platform {
   const std::unique_ptr<Sound> sound_ = MakeSound();
   const std::unique_ptr<Dialogs> dialogs_ = MakeDialogs();
   const std::unique_ptr<System> system_ = MakeSystem();
+  const std::unique_ptr<Modules> modules_ = MakeModules();
 };
 
 }  // namespace
