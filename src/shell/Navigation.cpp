@@ -2,6 +2,7 @@
 
 #include "blocking/BlockingState.h"
 #include "settings/bmdlSave.h"
+#include "shell/CheckAndRepair.h"
 #include "shell/launch/OpenUrl.h"
 
 namespace vantrel::shell {
@@ -227,6 +228,8 @@ void AttachNavigation(Program& program, frmMain& form) {
     (form.*row.link).Click = [&program, &row] { FollowLink(program, row); };
   }
   form.LnkHelp.Click = [&program] { FollowHelpLink(program); };
+  // The one link that shows no panel: whatever shows stays, under its title.
+  form.lnkCheckAndRepair.Click = [&program] { CheckAndRepair(program); };
   form.Toolbar1.ButtonClick = [&program](int index) { PressTool(program, index); };
   form.cmdADDBHO.Click = [&program] { blocking::cmdADDBHO_Click(program); };
   form.cmdRemoveBHO.Click = [&program] { blocking::RemoveEngineEntry(program); };
