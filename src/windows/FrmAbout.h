@@ -15,36 +15,36 @@ class FrmAbout : public forms::Form {
 
   forms::ImageList ImgHelpLogo{*this, "ImgHelpLogo", 2};
 
-  forms::Image ImgLTop{*this, "ImgLTop", {.At = Grid(12, 12, 64, 64)}};
+  forms::Image ImgLTop{*this, "ImgLTop", {.At = Grid(12, 10, 340, 8)}};
   forms::Label Label1{
       *this,
       "Label1",
-      {.Caption = "Vantrel", .At = Grid(90, 14, 190, 26), .TextFont = {.Size = 14, .Bold = true}}};
-  forms::Label Label2{*this, "Label2", {.Caption = "Version 2.00", .At = Grid(90, 46, 190, 15)}};
-  forms::Image Image2{*this, "Image2", {.At = Grid(288, 12, 64, 64)}};
+      {.Caption = "Vantrel", .At = Grid(92, 34, 260, 26), .TextFont = {.Size = 14, .Bold = true}}};
+  forms::Label Label2{*this, "Label2", {.Caption = "Version 2.00", .At = Grid(92, 64, 260, 15)}};
+  forms::Image Image2{*this, "Image2", {.At = Grid(12, 28, 64, 64)}};
   forms::Label Label3{
       *this,
       "Label3",
       {.Caption = "Copyright (c) Qorvel Software. All rights reserved. This program is protected "
                   "by copyright law.",
-       .At = Grid(12, 90, 340, 32),
+       .At = Grid(12, 104, 340, 32),
        .Drawn = forms::Look::Note}};
   forms::Label Label30{*this,
                        "Label30",
                        {.Caption = "Qorvel Software Website",
-                        .At = Grid(12, 132, 170, 15),
+                        .At = Grid(12, 146, 170, 15),
                         .ToolTipText = "Open the website of Qorvel Software",
                         .Drawn = forms::Look::Link}};
   forms::Label Label61{*this,
                        "Label61",
                        {.Caption = "Help && Support",
-                        .At = Grid(192, 132, 110, 15),
+                        .At = Grid(192, 146, 110, 15),
                         .ToolTipText = "Open the help pages",
                         .Drawn = forms::Look::Link}};
   forms::CommandButton CmdOK{
       *this,
       "CmdOK",
-      {.Caption = "OK", .At = Grid(276, 160, 76, 23), .Default = true, .Cancel = true}};
+      {.Caption = "OK", .At = Grid(276, 172, 76, 23), .Default = true, .Cancel = true}};
 };
 
 }  // namespace vantrel::windows

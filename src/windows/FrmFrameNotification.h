@@ -44,10 +44,9 @@ class FrmFrameNotification : public forms::Form {
                         .Drawn = forms::Look::Link,
                         .Alignment = forms::Align::Right}};
   forms::CheckBox chkNS{Frame1, "chkNS", {.Caption = "Play a sound", .At = Grid(16, 110, 106, 17)}};
-  forms::Label Label2{Frame1, "Label2", {.Caption = "Sound:", .At = Grid(126, 111, 46, 15)}};
   forms::ComboBox cmbsound{Frame1,
                            "cmbsound",
-                           {.At = Grid(174, 108, 108, 21)},
+                           {.At = Grid(130, 108, 150, 21), .ToolTipText = "The sound to be played"},
                            forms::ComboStyle::PickOnly,
                            {"alert", "click", "crash", "double", "drop", "pop", "pop2", "slip",
                             "vanish", "vaporize", "woosh"}};

@@ -64,6 +64,7 @@ void FrameWindow::PaintCaption(HDC context, const RECT& area, int height) const 
   RECT text{area.left + scale.Grown(CaptionIndent) + margin, area.top, 0, area.top + height};
   text.right = text.left + MeasureText(caption, TextFont(), 0, DT_SINGLELINE).cx;
   RECT gap = text;
+  gap.right = text.left + DrawnWidth(caption, TextFont());
   InflateRect(&gap, margin, 0);
   FillArea(context, gap, System().Palette.Of(GroundColor()));
   const Color color = frame_.Enabled() ? palette::FrameText : palette::GrayText;

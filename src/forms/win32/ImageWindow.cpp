@@ -7,12 +7,13 @@
 namespace vantrel::forms::win32 {
 namespace {
 
-// A picture so much wider than high is a line: it is as long as its place.
+// A picture or a place so much wider than high is a line: the picture fills the place.
 constexpr int LineProportion = 8;
 
 // The picture in the middle of its place, at its own size or as large as fits.
 RECT Fitted(const RECT& area, SIZE picture) {
   if (picture.cx >= LineProportion * picture.cy) return area;
+  if (WidthOf(area) >= LineProportion * HeightOf(area)) return area;
   int width = picture.cx;
   int height = picture.cy;
   if (width > WidthOf(area) || height > HeightOf(area)) {

@@ -51,6 +51,7 @@ void ListViewWindow::Prepare() {
     Tell(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
   }
   AddColumns();
+  FillWidth();
   ShowColors();
   ShowRows();
 }
@@ -67,6 +68,17 @@ void ListViewWindow::AddColumns() {
     Tell(LVM_INSERTCOLUMNA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column));
     ++index;
   }
+}
+
+// The last column takes what the others leave of the list's width.
+void ListViewWindow::FillWidth() {
+  const auto count = static_cast<int>(list_.Columns().size());
+  int room = WidthOf(ClientArea(Handle()));
+  for (int index = 0; index + 1 < count; ++index) {
+    room -= static_cast<int>(Tell(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
+  }
+  const auto last = static_cast<WPARAM>(count - 1);
+  if (count > 0 && room > 0) Tell(LVM_SETCOLUMNWIDTH, last, MAKELPARAM(room, 0));
 }
 
 void ListViewWindow::ShowColors() {
@@ -245,6 +257,11 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case ShowGathered:
       if (gathering_) ShowRows();
       return 0;
+    case WM_SIZE: {
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      if (Alive()) FillWidth();
+      return answer;
+    }
     case LVM_SETITEMSTATE:
       if (!IsTelling() && second != 0 &&
           AssignState(static_cast<int>(first), *reinterpret_cast<const LVITEMA*>(second))) {

@@ -30,6 +30,7 @@ class ListViewWindow final : public ControlWindow {
 
  private:
   void AddColumns();
+  void FillWidth();
   void Gather();
   void ShowRows();
   void ShowSelection();

@@ -85,6 +85,22 @@ SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags) {
   return {text.empty() ? 0 : area.right, area.bottom};
 }
 
+int DrawnWidth(const std::string& text, HFONT font) {
+  const WindowContext screen(nullptr);
+  const Selection withFont(screen.Get(), font);
+  const MAT2 unchanged{{0, 1}, {0, 0}, {0, 0}, {0, 1}};
+  int width = 0;
+  for (const char letter : text) {
+    GLYPHMETRICS shape{};
+    if (GetGlyphOutlineA(screen.Get(), static_cast<unsigned char>(letter), GGO_BITMAP, &shape, 0,
+                         nullptr, &unchanged) == GDI_ERROR) {
+      return MeasureText(text, font, 0, DT_SINGLELINE | DT_NOPREFIX).cx;
+    }
+    width += shape.gmCellIncX;
+  }
+  return width;
+}
+
 RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment) {
   const int room = area.right - area.left;
   const SIZE size = MeasureText(text, font, room, DT_EXPANDTABS);

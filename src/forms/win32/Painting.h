@@ -45,6 +45,9 @@ void DrawTextIn(HDC context, const std::string& text, RECT area, HFONT font, COL
                 UINT flags);
 // The size of a text, broken into lines if width is not 0.
 SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags);
+// How wide a line comes out, in pixels: where a font has ready bitmaps for a size they may be
+// narrower than its measures. An & counts as itself.
+int DrawnWidth(const std::string& text, HFONT font);
 
 // Where a text aligned within an area lies, as far as the area goes.
 RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment);

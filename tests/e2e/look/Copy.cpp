@@ -90,12 +90,16 @@ HWND Copy::FindShown(const std::string& className) const {
   return found;
 }
 
-void Copy::Click(const std::string& controlName) const {
-  SendBounded(Find(controlName), BM_CLICK);
+void Copy::Click(const std::string& controlName) const { SendBounded(Find(controlName), BM_CLICK); }
+
+void Copy::MouseClick(const std::string& controlName) const {
+  HWND window = Find(controlName);
+  PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  PostMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
 }
 
 bool Copy::Open(const Screen& screen) const {
-  Click(screen.Opener);
+  MouseClick(screen.Opener);
   HWND panel = Find(screen.Panel);
   const bool shown = WaitFor([&] { return IsWindowVisible(panel) != FALSE; });
   Settle();

@@ -49,6 +49,8 @@ class Copy {
 
   // Clicks and returns when the program has handled it.
   void Click(const std::string& controlName) const;
+  // Presses and releases the left button in it; returns at once.
+  void MouseClick(const std::string& controlName) const;
   // Brings the panel up; false if it does not show within a bound.
   bool Open(const Screen& screen) const;
   // Chooses an entry of the main window's menu.

@@ -40,6 +40,29 @@ class SampleCounts {
   }
 };
 
+// Ends the copy as its menu does and starts it anew; the chart is drawn at the start alone.
+DWORD StartAnew(DWORD processId) {
+  const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, processId);
+  Copy(processId).Choose("MnuExit");
+  const bool ended = WaitForSingleObject(process, DefaultBound) == WAIT_OBJECT_0;
+  CloseHandle(process);
+  if (!ended) return processId;
+  std::string command = '"' + ExecutablePath() + '"';
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION started{};
+  if (!CreateProcessA(ExecutablePath().c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      nullptr, &startup, &started)) {
+    return 0;
+  }
+  CloseHandle(started.hThread);
+  CloseHandle(started.hProcess);
+  const Copy copy(started.dwProcessId);
+  WaitFor([&] { return WindowTextOf(copy.Find("frmMain.cmdDummy")) == "Ready for command"; },
+          30000);
+  return started.dwProcessId;
+}
+
 void Answered() {
   char line[64];
   if (std::fgets(line, sizeof line, stdin) == nullptr) std::exit(1);
@@ -74,11 +97,12 @@ void ShootPanels(const Copy& copy, HWND main) {
     if (!copy.Open(screen)) Missing(screen.Panel);
     Shoot(screen.Name, main);
   }
-  copy.Click("frmMain.LnkWelcome");
 }
 
 void ShootHelp(const Copy& copy, HWND main) {
-  copy.Click("frmMain.LnkHelp");
+  // The Help frame lies under the Welcome panel, which this one hides.
+  copy.Open(Panels[2]);
+  copy.MouseClick("frmMain.LnkHelp");
   WaitFor([&] { return IsWindowVisible(copy.Find("frmMain.frahelp")) != FALSE; }, 5000);
   // Where no browser is to be had, a box says so.
   if (HWND box = copy.FindShown("#32770")) SendMessageA(box, WM_CLOSE, 0, 0);
@@ -87,9 +111,8 @@ void ShootHelp(const Copy& copy, HWND main) {
 }
 
 void ShootDialogs(const Copy& copy) {
-  for (const auto& [name, entry, window] :
-       {std::tuple{"toolbar", "submnuIEToolbar", "frmcustom"},
-        std::tuple{"about", "submnuAbout", "FrmAbout"}}) {
+  for (const auto& [name, entry, window] : {std::tuple{"toolbar", "submnuIEToolbar", "frmcustom"},
+                                            std::tuple{"about", "submnuAbout", "FrmAbout"}}) {
     copy.Choose(entry);
     ShootWhenThere(name, [&] { return copy.Find(window); });
     HWND shown = copy.Find(window);
@@ -138,14 +161,13 @@ void ShootInverted(const Copy& copy, HWND main) {
 
 int TakeAll() {
   SeeRealPixels();
-  const Copy copy(RunningProcess());
+  const SampleCounts counts;
+  const Copy copy(StartAnew(RunningProcess()));
   HWND main = copy.Find("frmMain");
   if (main == nullptr) {
     std::printf("no copy runs\n");
     return 1;
   }
-  const SampleCounts counts;
-  WaitFor([&] { return WindowTextOf(copy.Find("FrmFrameMain.lblno")) == "2,863"; }, 5000);
   ShootPanels(copy, main);
   ShootHelp(copy, main);
   copy.Open(Panels[0]);
