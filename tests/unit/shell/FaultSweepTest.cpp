@@ -3,6 +3,7 @@
 // by the gate or goes on with a window that works. What is prescribed for a failure holds.
 #include <gmock/gmock.h>
 
+#include "unit/shell/ShellTest.h"
 
 namespace vantrel::shell {
 namespace {
