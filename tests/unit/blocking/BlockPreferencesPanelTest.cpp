@@ -201,6 +201,12 @@ TEST_F(BlockPreferences, TheMasterSetsTheBoxesInItsOrder) {
                                    panel + "chkBDialogBox", panel + "chkBSpyware"));
 }
 
+TEST_F(BlockPreferences, AGrayedMasterStartsNoCascade) {
+  Panel().chkAll.SetValue(2);
+  EXPECT_THAT(Writes(), IsEmpty());
+  EXPECT_TRUE(Panel().cmdsave.Enabled());
+}
+
 TEST_F(BlockPreferences, AMasterClickSavesOncePerBoxThatChanges) {
   Panel().chkBDialogBox.SetValue(0);
   process.Trace().Clear();

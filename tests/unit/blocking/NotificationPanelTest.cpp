@@ -92,6 +92,19 @@ TEST_F(Notification, DontNotifyClearsAllAndHidesTheSounds) {
   EXPECT_EQ(Panel().chkNAll.Value(), 1);
 }
 
+TEST_F(Notification, AGrayedBoxIsNotClearAndNotTicked) {
+  for (forms::CheckBox* box :
+       {&Panel().chkNW, &Panel().chkNS, &Panel().chkNPH, &Panel().chkNPHF, &Panel().chkNMC}) {
+    Panel().chkNAll.SetValue(1);
+    box->SetValue(2);
+    EXPECT_EQ(Panel().chkNAll.Value(), 0) << box->Name();
+  }
+  Panel().chkNS.SetValue(2);
+  EXPECT_TRUE(Panel().cmbsound.Visible());
+  Panel().chkNAll.SetValue(2);
+  EXPECT_EQ(Panel().chkNS.Value(), 2) << "the master clears them only when ticked";
+}
+
 TEST_F(Notification, DontNotifyWithAllBoxesClearSavesNothing) {
   Click(Panel().chkNAll);
   EXPECT_THAT(Writes(), IsEmpty());
