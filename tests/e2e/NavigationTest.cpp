@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "support/ProgramTest.h"
+#include "support/RecordedBrowser.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -19,17 +20,11 @@ class NavigationTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    // No page is to be opened for real.
-    CreateKey(HKEY_CLASSES_ROOT, BrowserCommand);
-    browser_ = Read(HKEY_CLASSES_ROOT, BrowserCommand, "");
-    Write(HKEY_CLASSES_ROOT, BrowserCommand, "",
-          Text('"' + HelperPath("recording-browser.exe") + "\""));
     program_.emplace();
     ASSERT_TRUE(program_->WaitUntilIdle());
   }
   void TearDown() override {
     program_.reset();
-    if (browser_) Write(HKEY_CLASSES_ROOT, BrowserCommand, "", *browser_);
     ProgramTest::TearDown();
   }
   const Running& Program() const { return *program_; }
@@ -59,8 +54,7 @@ class NavigationTest : public ProgramTest {
   bool HelpShown() const { return Program().IsShown("frmMain.frahelp"); }
 
  private:
-  static constexpr const char* BrowserCommand = "http\\shell\\open\\command";
-  std::optional<StoredValue> browser_;
+  RecordedBrowser browser_;  // no page is to be opened for real
   std::optional<Running> program_;
 };
 

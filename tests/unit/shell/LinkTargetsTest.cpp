@@ -2,6 +2,7 @@
 
 #include "shell/LinkTargets.h"
 #include "shell/launch/OpenUrl.h"
+#include "support/LinkTable.h"
 #include "unit/shell/ShellTest.h"
 
 namespace vantrel::shell {
@@ -13,6 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr const char* Browser = "\"C:\\Program Files\\Browser\\browser.exe\" ";
+constexpr const char* Folder = "C:\\Program Files\\Vantrel";
 constexpr const char* CommandKey = "http\\shell\\open\\command";
 
 class Links : public test::ShellTest {
@@ -53,102 +55,20 @@ class Links : public test::ShellTest {
   std::string opened;
 };
 
-struct Expected {
-  const char* name;
-  const char* commandLine;  // behind the browser
-};
-
-// Every control that opens a page, with the command line's tail that its click starts.
-constexpr Expected Table[] = {
-    {"frmMain.Label29", "\"www.qorvel.example/Vantrel/Help.htm\""},
-    {"frmMain.Label31", "\"www.qorvel.example/Vantrel/Faqs.htm\""},
-    {"frmMain.Label30", "\"www.qorvel.example/Vantrel\""},
-    {"FrmAbout.Label30", "\"www.qorvel.example/Vantrel\""},
-    {"FrmFrameMain.Label62", "\"www.qorvel.example/Vantrel\""},
-    {"frmMain.mnusysupdates", "\"update.qorvel.example/Vantrel/Update.asp\""},
-    {"frmMain.mnusystellf", "\"www.qorvel.example/Vantrel/TellaFriend.asp\""},
-    {"FrmFrameSettings.Command4", "http://www.qorvel.example/vantrel/updates.html"},
-    {"frmMain.mnutest", "http://www.popuptest.example/"},
-    {"FrmFrameMain.cmdtest", "http://www.popuptest.example/"},
-    {"frmMain.LnkHelp", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"frmMain.submnuLaunchHelp", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"frmMain.Label32", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"frmMain.Label57", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"frmMain.Label61", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"FrmAbout.Label61", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"FrmFrameMain.Label6", "\"C:\\Program Files\\Vantrel\\help\\welcome.htm\""},
-    {"FrmFrameMain.Label9", "\"C:\\Program Files\\Vantrel\\help\\settings.htm#MinimizeOnStartup\""},
-    {"FrmFrameBlockPreferences.Label12",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm\""},
-    {"FrmFrameBlockPreferences.Label17",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#BlockAllPopupAds\""},
-    {"FrmFrameBlockPreferences.Label18",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#Pop-UpAds\""},
-    {"FrmFrameBlockPreferences.Label2",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#AutomaticSpywareDownloads\""},
-    {"FrmFrameBlockPreferences.Label20",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#WebPageDialogs\""},
-    {"FrmFrameBlockPreferences.Label21",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#BannerAds\""},
-    {"FrmFrameBlockPreferences.Label22",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#DHTMLFly-inAds\""},
-    {"FrmFrameBlockPreferences.Label23",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#FlashAds\""},
-    {"FrmFrameBlockPreferences.Label24",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#Adssecuresites\""},
-    {"FrmFrameBlockPreferences.Label7",
-     "\"C:\\Program Files\\Vantrel\\help\\Block Preferences.htm#MessengerAds\""},
-    {"FrmFrameSettings.lblHGS", "\"C:\\Program Files\\Vantrel\\help\\settings.htm\""},
-    {"FrmFrameSettings.Label13",
-     "\"C:\\Program Files\\Vantrel\\help\\settings.htm#Browsertoolbar\""},
-    {"FrmFrameSettings.Label14", "\"C:\\Program Files\\Vantrel\\help\\settings.htm#Hidetotray\""},
-    {"FrmFrameSettings.Label15",
-     "\"C:\\Program Files\\Vantrel\\help\\settings.htm#StartwithWindows\""},
-    {"FrmFrameSettings.Label16", "\"C:\\Program Files\\Vantrel\\help\\settings.htm#KeepALog\""},
-    {"FrmFrameSettings.Label25",
-     "\"C:\\Program Files\\Vantrel\\help\\settings.htm#Automaticupdates\""},
-    {"FrmFrameSettings.lblviewtoolbar", "\"C:\\Program Files\\Vantrel\\help\\ViewToolbar.htm\""},
-    {"FrmFrameHistory.Label19", "\"C:\\Program Files\\Vantrel\\help\\cleaning.htm\""},
-    {"FrmFrameHistory.Label47", "\"C:\\Program Files\\Vantrel\\help\\cleaning.htm#DeleteCache\""},
-    {"FrmFrameHistory.Label48", "\"C:\\Program Files\\Vantrel\\help\\cleaning.htm#Deletecookies\""},
-    {"FrmFrameAllowList.Label39", "\"C:\\Program Files\\Vantrel\\help\\Allowedlist.htm\""},
-    {"FrmFrameNotification.Label42",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm\""},
-    {"FrmFrameNotification.Label49",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm#Displaynotification\""},
-    {"FrmFrameNotification.Label50",
-     "\"C:\\Program Files\\Vantrel\\help\\Notification.htm#cursor\""},
-    {"FrmFrameNotification.Label51",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm#Playsound\""},
-    {"FrmFrameNotification.Label52",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm#DisplayholdersImage\""},
-    {"FrmFrameNotification.Label53",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm#DisplayholdersFlash\""},
-    {"FrmFrameNotification.Label58",
-     "\"C:\\Program Files\\Vantrel\\help\\Notificationsettings.htm#DontNotify\""},
-    {"FrmFrameIESettings.Label38", "\"C:\\Program Files\\Vantrel\\help\\IE Settings.htm\""},
-    {"FrmFrameIESettings.Label37", "\"C:\\Program Files\\Vantrel\\help\\IE Settings.htm#backup\""},
-    {"FrmFrameIESettings.Label55", "\"C:\\Program Files\\Vantrel\\help\\IE Settings.htm#restore\""},
-    {"FrmFrameIEPlugin.Label41",
-     "\"C:\\Program Files\\Vantrel\\help\\IE Settings.htm#IEPluginsandBHO\""},
-    {"FrmFrameGraph.Label44", "\"C:\\Program Files\\Vantrel\\help\\Graph.htm#GraphicalDisplay\""},
-    {"FrmFrameLog.Label46", "\"C:\\Program Files\\Vantrel\\help\\graph.htm#DetailedLog\""},
-};
-
 TEST_F(Links, EachControlStartsTheBrowserWithItsPage) {
   static_cast<void>(*copy->Windows().FrmAbout);
-  for (const Expected& row : Table) {
+  for (const test::LinkRow& row : test::LinkTable) {
     world.programs.ClearStarted();
     ClickNamed(row.name);
-    EXPECT_THAT(Started(), ElementsAre(std::string(Browser) + row.commandLine)) << row.name;
+    EXPECT_THAT(Started(), ElementsAre(Browser + ExpectedArgument(row, Folder))) << row.name;
     EXPECT_EQ(world.programs.Started().at(0).showCommand, 1) << row.name;
   }
 }
 
 TEST_F(Links, EveryRowOfTheTableIsTold) {
   ForEachLinkTarget([](const std::string& name, const launch::Target&) {
-    const bool told = std::any_of(std::begin(Table), std::end(Table),
-                                  [&name](const Expected& row) { return name == row.name; });
+    const bool told = std::any_of(std::begin(test::LinkTable), std::end(test::LinkTable),
+                                  [&name](const test::LinkRow& row) { return name == row.name; });
     EXPECT_TRUE(told) << name;
   });
 }
