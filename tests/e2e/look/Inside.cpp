@@ -57,4 +57,9 @@ LOGFONTA Inside::FontOf(HWND control) const {
   return font;
 }
 
+void Inside::InvertColors() const {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutA(window_, inside::AskInverted, 0, 0, SMTO_BLOCK, DefaultBound, &answer);
+}
+
 }  // namespace vantrel::e2e

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "Copy.h"
-#include "Scheme.h"
+#include "Inside.h"
 #include "support/RegistryView.h"
 #include "support/Running.h"
 #include "support/Wait.h"
@@ -152,11 +152,15 @@ void ShootBox(const Copy& copy) {
 }
 
 void ShootInverted(const Copy& copy, HWND main) {
-  const InvertedScheme inverted;
+  const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, copy.ProcessId());
+  const Inside inside(process);
+  inside.InvertColors();
   for (const Screen& screen : Panels) {
     copy.Open(screen);
     Shoot(std::string("inverted-") + screen.Name, main);
   }
+  inside.InvertColors();
+  CloseHandle(process);
 }
 
 int TakeAll() {

@@ -22,10 +22,29 @@ void PutFont(HWND control) {
   CloseHandle(mapping);
 }
 
+void InvertColors() {
+  constexpr int Count = 31;
+  constexpr COLORREF White = 0xFFFFFF;
+  int indices[Count];
+  COLORREF inverted[Count];
+  for (int index = 0; index < Count; ++index) {
+    indices[index] = index;
+    inverted[index] = GetSysColor(index) ^ White;
+  }
+  SetSysColors(Count, indices, inverted);
+}
+
 LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second) {
-  if (message != inside::AskFont) return DefWindowProcA(window, message, first, second);
-  PutFont(reinterpret_cast<HWND>(first));
-  return 1;
+  switch (message) {
+    case inside::AskFont:
+      PutFont(reinterpret_cast<HWND>(first));
+      return 1;
+    case inside::AskInverted:
+      InvertColors();
+      return 1;
+    default:
+      return DefWindowProcA(window, message, first, second);
+  }
 }
 
 DWORD WINAPI Serve(void*) {

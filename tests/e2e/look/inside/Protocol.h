@@ -12,6 +12,9 @@ inline constexpr const char* MemoryName = "VantrelLookInside";
 // The font of the control in the first parameter is put into the shared memory; answers 1.
 inline constexpr UINT AskFont = WM_APP + 1;
 
+// Every colour of the scheme, as that process sees it, becomes its opposite; answers 1.
+inline constexpr UINT AskInverted = WM_APP + 2;
+
 struct Memory {
   LOGFONTA Font;
 };
