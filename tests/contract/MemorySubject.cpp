@@ -37,6 +37,11 @@ class MemorySubject : public Subject {
   }
   void Unlock() override { world_.files.SetLocked(locked_, false); }
   void PutProgram(const std::string& path) override { world_.files.Put(path, "MZ"); }
+  void PutLibrary(const std::string& path) override {
+    world_.libraries.Register(
+        path, {{"DllRegisterServer", [] { return 7; }}, {"Hang", memory::Libraries::Hangs}});
+  }
+  void LetGo() override { world_.libraries.Release(); }
 
   WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) override {
     memory::Desktop& desktop = world_.desktop;

@@ -37,6 +37,10 @@ class Subject {
   virtual void Unlock() = 0;
   // Puts a program there that ends at once.
   virtual void PutProgram(const std::string& path) = 0;
+  // Puts a library there with two entries: "DllRegisterServer" returns 7, "Hang" does not return
+  // until all that hang are let go, and then 0.
+  virtual void PutLibrary(const std::string& path) = 0;
+  virtual void LetGo() = 0;
 
   // A window of 100 by 50 pixels at the place, without title bar, visible; with a parent it is its
   // child. It takes texts and counts clicks (BmClick).

@@ -53,6 +53,7 @@ class Win32Subject : public Subject {
  public:
   ~Win32Subject() override {
     Unlock();
+    LetGo();
     for (const HWND window : windows_) ::DestroyWindow(window);
     if (!folder_.empty()) DeleteFolder(folder_);
   }
@@ -99,6 +100,15 @@ class Win32Subject : public Subject {
     CopyFileA((std::string(system) + "\\hostname.exe").c_str(), path.c_str(), FALSE);
   }
 
+  void PutLibrary(const std::string& path) override {
+    char tests[MAX_PATH] = {};
+    GetModuleFileNameA(nullptr, tests, MAX_PATH);
+    const std::string own = tests;
+    const std::string built = own.substr(0, own.rfind('\\')) + "\\contract-library.dll";
+    CopyFileA(built.c_str(), path.c_str(), FALSE);
+  }
+  void LetGo() override { SetEvent(letGo_.Get()); }
+
   WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) override {
     RegisterOnce();
     const DWORD style = WS_VISIBLE | (parent == 0 ? WS_POPUP : WS_CHILD);
@@ -123,6 +133,8 @@ class Win32Subject : public Subject {
   std::unique_ptr<win32::Win32Platform> another_;
   std::string folder_;
   win32::FileHandle lock_;
+  // What the hanging entries of the library wait for.
+  win32::KernelHandle letGo_{CreateEventA(nullptr, TRUE, FALSE, "VantrelContractLetGo")};
   std::vector<HWND> windows_;
 };
 
