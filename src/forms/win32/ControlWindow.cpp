@@ -216,7 +216,10 @@ void ControlWindow::DrawHouseBorder() {
   RECT area{};
   GetWindowRect(Handle(), &area);
   OffsetRect(&area, -area.left, -area.top);
-  FrameRect(context, &area, System().Palette.BrushOf(palette::FrameLine));
+  // An empty list has nothing else to show that it has the focus.
+  const bool focused = GetFocus() == Handle();
+  const Color line = focused ? palette::Highlight : palette::FrameLine;
+  FrameRect(context, &area, System().Palette.BrushOf(line));
   ReleaseDC(Handle(), context);
 }
 

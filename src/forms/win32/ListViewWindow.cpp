@@ -282,7 +282,9 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       if (Alive()) ShowColors();
       return answer;
     }
-    case WM_NCPAINT: {
+    case WM_NCPAINT:
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
       if (Alive()) DrawHouseBorder();
       return answer;

@@ -52,7 +52,9 @@ HBRUSH TextBoxWindow::OnColor(HDC context) {
 
 LRESULT TextBoxWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-  if (message == WM_NCPAINT && Alive()) DrawHouseBorder();
+  const bool borderChanges =
+      message == WM_NCPAINT || message == WM_SETFOCUS || message == WM_KILLFOCUS;
+  if (borderChanges && Alive()) DrawHouseBorder();
   return answer;
 }
 

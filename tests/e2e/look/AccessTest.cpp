@@ -98,9 +98,13 @@ TEST_F(AccessTest, TabVisitsEveryControlOfAPanelOnceAndComesBack) {
   }
 }
 
+// The compiler's own library has another number under this name.
+constexpr IID AccessibleInterface = {
+    0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
+
 std::string AccessibleName(HWND window) {
   IAccessible* object = nullptr;
-  if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+  if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), AccessibleInterface,
                                  reinterpret_cast<void**>(&object)) != S_OK) {
     return "";
   }

@@ -92,10 +92,12 @@ void ShootWhenThere(const char* name, Find find) {
   Shoot(name, window);
 }
 
+// The whole window, and the panel alone for the help pages.
 void ShootPanels(const Copy& copy, HWND main) {
   for (const Screen& screen : Panels) {
     if (!copy.Open(screen)) Missing(screen.Panel);
     Shoot(screen.Name, main);
+    Shoot(std::string("panel-") + screen.Name, copy.Find(screen.Panel));
   }
 }
 
