@@ -6,7 +6,6 @@ namespace vantrel::forms::win32 {
 namespace {
 
 constexpr const char* NameProperty = "ControlName";
-constexpr const char* OriginalProperty = "VantrelOriginal";
 
 Window* ObjectOf(HWND window) {
   return reinterpret_cast<Window*>(GetWindowLongPtrA(window, GWLP_USERDATA));
@@ -40,7 +39,6 @@ void Window::Create(const WindowShape& shape, const std::string& name) {
   if (!isOwn) {
     original_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Receive)));
-    SetPropA(window, OriginalProperty, reinterpret_cast<HANDLE>(original_));
     Adopt(window);
   }
   name_ = GlobalAddAtomA(name.c_str());
@@ -81,15 +79,15 @@ LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM
     const std::shared_ptr<Window> kept = object->shared_from_this();
     return kept->OnMessage(message, first, second);
   }
-  // Properties are slow: only a window without its object is asked.
-  const auto original = reinterpret_cast<WNDPROC>(GetPropA(window, OriginalProperty));
-  if (message == WM_NCDESTROY) RemovePropA(window, OriginalProperty);
   if (object != nullptr) {
     const std::shared_ptr<Window> kept = object->shared_from_this();
     kept->Forget(window);
   }
-  return original != nullptr ? CallWindowProcA(original, window, message, first, second)
-                             : DefWindowProcA(window, message, first, second);
+  // A window without its object is what its class makes it.
+  const auto ofClass = reinterpret_cast<WNDPROC>(GetClassLongPtrA(window, GCLP_WNDPROC));
+  return ofClass != nullptr && ofClass != Receive
+             ? CallWindowProcA(ofClass, window, message, first, second)
+             : DefWindowProcA(window, message, first, second);
 }
 
 LRESULT Window::Default(UINT message, WPARAM first, LPARAM second) {
@@ -156,7 +154,8 @@ void Window::Paint() {
 }
 
 void Window::Invalidate() const {
-  if (Alive()) InvalidateRect(handle_, nullptr, TRUE);
+  // A hidden window is painted when it is shown.
+  if (Alive() && IsWindowVisible(handle_)) InvalidateRect(handle_, nullptr, TRUE);
 }
 
 std::shared_ptr<Window> Window::ParentWindow() const {
