@@ -41,6 +41,8 @@ class Program {
   std::string BrowseStartPath;
   // The record of the one tray icon, as it was last handed to the shell.
   platform::NotifyIconData TrayIcon;
+  // The record of the main window's own icon, which is never added.
+  platform::NotifyIconData MainTrayIcon;
   // A window procedure; never assigned, so it stays 0.
   std::int32_t OldWindowProc = 0;
 

@@ -37,6 +37,9 @@ void MinimizeAllApplications(program::Program& program);
 // Shows the toolbar's dialog, beside the main window.
 void ShowToolbarDialog(program::Program& program);
 
+// An operation of the main window for callers from outside. Has no effect.
+inline void CreateView(program::Program& /*program*/) {}
+
 // Binds the links, tool buttons and hidden buttons of the main window.
 void AttachNavigation(program::Program& program, windows::frmMain& form);
 // Binds the menus of the main window's bar.

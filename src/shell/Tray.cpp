@@ -55,6 +55,18 @@ void AnswerTray(Program& program, float x) {
   }
 }
 
+void AddIcon(Program& program, platform::NotifyIconData& icon, const forms::Form& window) {
+  icon.cbSize = FirstFormSize;
+  icon.hWnd = window.hWnd();
+  icon.uID = 1;
+  icon.uFlags = MessageIconAndTip;
+  icon.uCallbackMessage = MouseMoveMessage;
+  icon.hIcon = program.windows.frmMain->IconHandle();
+  FillTip(icon.szTip);
+  program.platform.shell.Shell_NotifyIconA(platform::NimDelete, icon);
+  program.platform.shell.Shell_NotifyIconA(platform::NimAdd, icon);
+}
+
 void RemoveTrayIcon(Program& program) {
   program.platform.shell.Shell_NotifyIconA(platform::NimDelete, program.TrayIcon);
 }
@@ -78,16 +90,11 @@ constexpr TrayRow TrayEntries[] = {
 }  // namespace
 
 void AddTrayIcon(Program& program) {
-  platform::NotifyIconData& icon = program.TrayIcon;
-  icon.cbSize = FirstFormSize;
-  icon.hWnd = program.windows.FrmFrameMain->hWnd();
-  icon.uID = 1;
-  icon.uFlags = MessageIconAndTip;
-  icon.uCallbackMessage = MouseMoveMessage;
-  icon.hIcon = program.windows.frmMain->IconHandle();
-  FillTip(icon.szTip);
-  program.platform.shell.Shell_NotifyIconA(platform::NimDelete, icon);
-  program.platform.shell.Shell_NotifyIconA(platform::NimAdd, icon);
+  AddIcon(program, program.TrayIcon, *program.windows.FrmFrameMain);
+}
+
+void AddTrayIconOfMainWindow(Program& program) {
+  AddIcon(program, program.MainTrayIcon, *program.windows.frmMain);
 }
 
 void AttachTray(Program& program, windows::FrmFrameMain& panel) {

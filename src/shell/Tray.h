@@ -10,6 +10,10 @@ namespace vantrel::shell {
 // Removes any icon of the Welcome panel and adds it anew.
 void AddTrayIcon(program::Program& program);
 
+// The same for the main window, with a record of its own. Nothing in the program calls it: there is
+// never an icon of the main window.
+void AddTrayIconOfMainWindow(program::Program& program);
+
 // Binds the Welcome panel's Load, Unload and mouse moves.
 void AttachTray(program::Program& program, windows::FrmFrameMain& panel);
 // Binds the tray menu, and the double-click that the main window would answer.

@@ -103,6 +103,15 @@ TEST_F(Tray, TheMainWindowAnswersADoubleClickOfItsOwn) {
   EXPECT_TRUE(Main().Visible());
 }
 
+TEST_F(Tray, AnIconOfTheMainWindowIsLeftToOthersToAdd) {
+  EXPECT_EQ(world.tray.Icons().size(), 1U);
+  AddTrayIconOfMainWindow(copy->program);
+  ASSERT_EQ(world.tray.Icons().size(), 2U);
+  EXPECT_EQ(world.tray.Icons()[1].lastData.hWnd, Main().hWnd());
+  EXPECT_EQ(world.tray.Icons()[1].lastData.uID, 1U);
+  EXPECT_EQ(copy->program.TrayIcon.hWnd, Windows().FrmFrameMain->hWnd());
+}
+
 struct TrayCase {
   forms::Menu windows::frmMain::*entry;
   const char* panel;
