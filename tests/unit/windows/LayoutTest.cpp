@@ -162,16 +162,16 @@ TEST_F(Layout, ColumnsFillTheirListsButForTheScrollBar) {
   });
 }
 
-// What a screen reader says of the control: its text, or that of the label before it.
+// What a screen reader says of the control: its text, or that of the label before it, or else its
+// tool tip.
 std::string AccessibleName(const Control& control) {
   const bool named = dynamic_cast<const forms::TextBox*>(&control) == nullptr &&
                      dynamic_cast<const forms::ComboBox*>(&control) == nullptr;
   if (named) return control.WindowText();
   const std::vector<Control*>& all = control.Owner().Controls();
   const auto at = std::find(all.begin(), all.end(), &control);
-  if (at == all.begin()) return "";
-  const auto* label = dynamic_cast<const forms::Label*>(*(at - 1));
-  return label != nullptr ? label->Caption() : "";
+  const auto* label = at == all.begin() ? nullptr : dynamic_cast<const forms::Label*>(*(at - 1));
+  return label != nullptr ? label->Caption() : control.ToolTipText();
 }
 
 TEST_F(Layout, WhateverTabVisitsHasANameOfItsOwn) {
