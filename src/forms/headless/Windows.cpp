@@ -240,7 +240,9 @@ void Window::PopupMenu(Menu& menu) {
 
 Handle Window::IconHandle() const { return IconOfThePrograms; }
 
+// A hosted window keeps its place in the stack, which is that of its hosting.
 void Window::Activate() {
+  if (form_.Host() != nullptr) return;
   memory::Desktop& desktop = toolkit_.Desktop();
   if (!desktop.IsWindow(handle_)) return;
   desktop.BringToFront(handle_);

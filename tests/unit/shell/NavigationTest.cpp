@@ -96,6 +96,18 @@ TEST_F(Navigation, AnyPanelHidesTheHelpFrame) {
   EXPECT_FALSE(Main().frahelp.Visible());
 }
 
+TEST_F(Navigation, PanelsLieInTheOrderOfTheirHostingWhicheverShowsLast) {
+  CaseGraph(copy->program);
+  CaseIESettings(copy->program);
+  CaseWelcome(copy->program);
+  std::vector<std::string> shown;
+  for (const auto child : world.desktop.Children(Main().hWnd())) {
+    const std::string& name = world.desktop.ControlName(child);
+    if (name.starts_with("FrmFrame") && world.desktop.Visible(child)) shown.push_back(name);
+  }
+  EXPECT_THAT(shown, ElementsAre("FrmFrameGraph", "FrmFrameIESettings", "FrmFrameMain"));
+}
+
 TEST_F(Navigation, MenusLeaveTheTitleOfThePreviousPanel) {
   Main().LnkNotification.Click();
   ASSERT_TRUE(copy->user.Select(Main().MnuClean));
