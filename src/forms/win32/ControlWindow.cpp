@@ -62,7 +62,11 @@ void ControlWindow::CreateUnder(HWND parent, int identifier) {
   if (!Alive()) return;
   Tell(WM_SETFONT, reinterpret_cast<WPARAM>(TextFont()), FALSE);
   Prepare();
-  Changed(Aspect::ToolTip);
+}
+
+void ControlWindow::ShowTip() {
+  tipped_ = true;
+  if (const auto form = System().FormAround(Handle())) form->Tips().Set(Handle(), TipText());
 }
 
 HFONT ControlWindow::TextFont() const { return System().Typefaces.Of(control_.TextFont()); }
@@ -92,9 +96,7 @@ void ControlWindow::Changed(Aspect aspect) {
       return;
     }
     case Aspect::ToolTip:
-      if (const auto form = System().FormAround(Handle())) {
-        form->Tips().Set(Handle(), control_.ToolTipText());
-      }
+      if (tipped_) ShowTip();
       return;
     case Aspect::Font:
       Tell(WM_SETFONT, reinterpret_cast<WPARAM>(TextFont()), TRUE);
@@ -203,6 +205,7 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       if (control_.IsTabStop()) TakesFocusFromModel();
       break;
     default:
+      if (message == WM_MOUSEMOVE && !tipped_) ShowTip();
       if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) {
         RaiseMouse(message, first, second);
       }

@@ -19,6 +19,8 @@ class ControlWindow : public Window {
 
   // Makes the window under its container's, at its place.
   void CreateUnder(HWND parent, int identifier);
+  // Once the model knows its window: what the window then tells the model.
+  virtual void Settle() {}
   // Shows what has changed in the model.
   virtual void Changed(Aspect aspect);
   void TakeFocus() const;
@@ -35,6 +37,7 @@ class ControlWindow : public Window {
   virtual HFONT TextFont() const;
   // The pointer shown over it, in the models' numbers.
   virtual int Pointer() const { return control_.MousePointer(); }
+  virtual const std::string& TipText() const { return control_.ToolTipText(); }
   // Whose mouse events are raised here.
   virtual Control& MouseTarget() const { return control_; }
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
@@ -57,9 +60,11 @@ class ControlWindow : public Window {
   void GiveFocusAway();
   void RaiseMouse(UINT message, WPARAM keys, LPARAM position);
   bool TakesFocusFromModel();
+  void ShowTip();
 
   Control& control_;
   int telling_ = 0;
+  bool tipped_ = false;  // the mouse has been here: the tip is kept up to date
 };
 
 // What the model holds of its window.

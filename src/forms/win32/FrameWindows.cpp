@@ -6,9 +6,10 @@
 namespace vantrel::forms::win32 {
 namespace {
 
-constexpr int CornerRadius = 3;   // pixels at 96 dots per inch
-constexpr int CaptionIndent = 8;  //
-constexpr int CaptionMargin = 3;  // on both sides of the caption
+constexpr int CornerRadius = 3;    // pixels at 96 dots per inch
+constexpr int CaptionIndent = 8;   //
+constexpr int CaptionMargin = 3;   // on both sides of the caption
+constexpr int CaptionHeight = 18;  // no font of a caption is higher
 
 }  // namespace
 
@@ -45,13 +46,25 @@ void FrameWindow::PaintSurface(HDC context, const RECT& area) {
     RoundedFrame(context, area, radius, colors.Of(palette::FrameLine), colors.Of(palette::Card));
     return;
   }
-  // Without a caption it only holds what lies on it.
-  if (frame_.Caption().empty()) return;
+  // Without a caption it only holds what lies on it; and what lies on it often wants the ground
+  // alone, without line or caption.
+  if (frame_.Caption().empty() || IsInsideLine(context, area)) return;
   const int height = MeasureText(frame_.Caption(), TextFont(), 0, DT_SINGLELINE).cy;
   RECT line = area;
   line.top += height / 2;
   RoundedFrame(context, line, radius, colors.Of(palette::FrameLine), CLR_INVALID);
   PaintCaption(context, area, height);
+}
+
+// Whether all that the context shows lies within the line and under the caption.
+bool FrameWindow::IsInsideLine(HDC context, const RECT& area) const {
+  const int radius = System().Pixels.Grown(CornerRadius);
+  const RECT inside{area.left + radius, area.top + System().Pixels.Grown(CaptionHeight),
+                    area.right - radius, area.bottom - radius};
+  RECT shown{};
+  RECT common{};
+  GetClipBox(context, &shown);
+  return IntersectRect(&common, &shown, &inside) && EqualRect(&common, &shown);
 }
 
 // The caption interrupts the line, on the ground that lies around.

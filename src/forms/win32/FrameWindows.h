@@ -24,6 +24,7 @@ class FrameWindow final : public ContainerWindow {
   Color GroundColor() const override;
 
  private:
+  bool IsInsideLine(HDC context, const RECT& area) const;
   void PaintCaption(HDC context, const RECT& area, int height) const;
   bool IsCard() const { return frame_.Drawn() == Look::Card; }
 

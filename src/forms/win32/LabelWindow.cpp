@@ -119,9 +119,7 @@ void LabelWindow::PaintSurface(HDC context, const RECT& area) {
 void LabelWindow::Changed(Aspect aspect) {
   ControlWindow::Changed(aspect);
   if (!Alive()) return;
-  if (aspect == Aspect::Text || aspect == Aspect::Font || aspect == Aspect::Place) {
-    FitToText(label_, TextFont(), System().Pixels);
-  }
+  if (aspect == Aspect::Text || aspect == Aspect::Font || aspect == Aspect::Place) Fit();
 }
 
 void LabelWindow::Hover() {

@@ -8,10 +8,14 @@
 
 namespace vantrel::forms::win32 {
 
+// Gives a label that takes the size of its text that size.
+void FitToText(Label& label, HFONT font, const Scale& scale);
+
 class LabelWindow : public ControlWindow {
  public:
   LabelWindow(WindowSystem& system, Label& label) : ControlWindow(system, label), label_(label) {}
 
+  void Settle() override { Fit(); }
   void Changed(Aspect aspect) override;
   void PaintSurface(HDC context, const RECT& area) override;
 
@@ -27,6 +31,7 @@ class LabelWindow : public ControlWindow {
   bool HasFocus() const { return GetFocus() == Handle(); }
   void PaintGround(HDC context, const RECT& area) const;
   COLORREF TextColor() const;
+  void Fit() { FitToText(label_, TextFont(), System().Pixels); }
   void Hover();
   void Press(bool down, LPARAM position);
 
@@ -34,9 +39,6 @@ class LabelWindow : public ControlWindow {
   bool hovered_ = false;
   bool pressed_ = false;
 };
-
-// Gives a label that takes the size of its text that size.
-void FitToText(Label& label, HFONT font, const Scale& scale);
 
 }  // namespace vantrel::forms::win32
 

@@ -1,7 +1,6 @@
 #include "forms/win32/UserControlWindow.h"
 
 #include "forms/Controls.h"
-#include "forms/win32/FormWindow.h"
 #include "forms/win32/LabelWindow.h"
 #include "forms/win32/Painting.h"
 
@@ -57,6 +56,11 @@ WindowShape UserControlWindow::Shape() const {
 
 int UserControlWindow::Pointer() const { return Face().MousePointer(); }
 
+const std::string& UserControlWindow::TipText() const {
+  const std::string& text = Face().ToolTipText();
+  return text.empty() ? surface_.ToolTipText() : text;
+}
+
 void UserControlWindow::Changed(Aspect aspect) {
   // The text that shows is the face's.
   if (aspect != Aspect::Text) ControlWindow::Changed(aspect);
@@ -67,9 +71,7 @@ void UserControlWindow::FaceChanged(Label& face, Aspect aspect) {
   if (aspect == Aspect::Text) {
     Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(face.Caption().c_str()));
   } else if (aspect == Aspect::ToolTip) {
-    if (const auto form = System().FormAround(Handle())) {
-      form->Tips().Set(Handle(), face.ToolTipText());
-    }
+    ControlWindow::Changed(aspect);
   }
   Invalidate();
   if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels);

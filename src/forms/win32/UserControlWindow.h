@@ -27,6 +27,7 @@ class UserControlWindow : public ControlWindow {
   WindowShape Shape() const override;
   HFONT TextFont() const override { return System().Typefaces.Of(Face().TextFont()); }
   int Pointer() const override;
+  const std::string& TipText() const override;
   Control& MouseTarget() const override { return Face(); }
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 

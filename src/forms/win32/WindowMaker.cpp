@@ -58,7 +58,7 @@ class Maker final : public ControlVisitor {
     auto window = std::make_shared<Kind>(system_, control);
     window->CreateUnder(parent_, identifier_);
     control.AttachPeer(MakePeer(window));
-    window->Changed(Aspect::Font);
+    window->Settle();
   }
 
   // One that has no text of its own to be known by.
