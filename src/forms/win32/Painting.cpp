@@ -1,5 +1,10 @@
 #include "forms/win32/Painting.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "forms/win32/Scale.h"
+
 namespace vantrel::forms::win32 {
 namespace {
 
@@ -8,23 +13,35 @@ TRIVERTEX Corner(LONG x, LONG y, COLORREF color) {
   return {x, y, part(GetRValue(color)), part(GetGValue(color)), part(GetBValue(color)), 0};
 }
 
+std::unique_ptr<PaintSheet> NewSheet(HDC screen, SIZE size) {
+  auto sheet = std::make_unique<PaintSheet>();
+  sheet->Picture = Bitmap(CreateCompatibleBitmap(screen, size.cx, size.cy));
+  sheet->Context = MemoryContext(CreateCompatibleDC(screen));
+  sheet->Size = size;
+  SelectObject(sheet->Context.Get(), sheet->Picture.Get());
+  return sheet;
+}
+
 }  // namespace
 
-PaintBuffer::PaintBuffer(HWND window) : window_(window), screen_(BeginPaint(window, &paint_)) {
+PaintBuffer::PaintBuffer(HWND window, std::unique_ptr<PaintSheet>& kept)
+    : window_(window), screen_(BeginPaint(window, &paint_)), kept_(kept), sheet_(std::move(kept)) {
   const RECT& area = paint_.rcPaint;
-  const int width = area.right > area.left ? area.right - area.left : 1;
-  const int height = area.bottom > area.top ? area.bottom - area.top : 1;
-  memory_ = MemoryContext(CreateCompatibleDC(screen_));
-  bitmap_ = Bitmap(CreateCompatibleBitmap(screen_, width, height));
-  before_ = SelectObject(memory_.Get(), bitmap_.Get());
-  SetWindowOrgEx(memory_.Get(), area.left, area.top, nullptr);
+  const SIZE wanted{std::max(WidthOf(area), 1), std::max(HeightOf(area), 1)};
+  const SIZE held = sheet_ ? sheet_->Size : SIZE{};
+  if (wanted.cx > held.cx || wanted.cy > held.cy) {
+    sheet_ = NewSheet(screen_, {std::max(wanted.cx, held.cx), std::max(wanted.cy, held.cy)});
+  }
+  const Region shown(CreateRectRgn(0, 0, wanted.cx, wanted.cy));
+  SelectClipRgn(Context(), shown.Get());
+  SetWindowOrgEx(Context(), area.left, area.top, nullptr);
 }
 
 PaintBuffer::~PaintBuffer() {
   const RECT& area = paint_.rcPaint;
-  BitBlt(screen_, area.left, area.top, area.right - area.left, area.bottom - area.top,
-         memory_.Get(), area.left, area.top, SRCCOPY);
-  SelectObject(memory_.Get(), before_);
+  BitBlt(screen_, area.left, area.top, area.right - area.left, area.bottom - area.top, Context(),
+         area.left, area.top, SRCCOPY);
+  kept_ = std::move(sheet_);
   EndPaint(window_, &paint_);
 }
 

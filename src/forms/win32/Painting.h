@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 
 #include "forms/Design.h"
@@ -11,23 +12,31 @@
 
 namespace vantrel::forms::win32 {
 
+// What a PaintBuffer draws on. It is kept from one paint to the next, since making it takes longer
+// than most paints.
+struct PaintSheet {
+  Bitmap Picture;
+  MemoryContext Context;  // goes before the picture that is selected in it
+  SIZE Size{};
+};
+
 // One WM_PAINT: what is drawn into Context appears on the window at once, when this goes.
 class PaintBuffer {
  public:
-  explicit PaintBuffer(HWND window);
+  PaintBuffer(HWND window, std::unique_ptr<PaintSheet>& kept);
   PaintBuffer(const PaintBuffer&) = delete;
   PaintBuffer& operator=(const PaintBuffer&) = delete;
   ~PaintBuffer();
 
-  HDC Context() const { return memory_.Get(); }
+  HDC Context() const { return sheet_->Context.Get(); }
 
  private:
   HWND window_;
   PAINTSTRUCT paint_{};
   HDC screen_;
-  MemoryContext memory_;
-  Bitmap bitmap_;
-  HGDIOBJ before_ = nullptr;
+  std::unique_ptr<PaintSheet>& kept_;
+  std::unique_ptr<PaintSheet>
+      sheet_;  // in use: a paint within this one finds none and makes its own
 };
 
 // The inside of a window, from 0, 0.

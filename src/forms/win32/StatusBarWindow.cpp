@@ -108,7 +108,7 @@ LRESULT StatusBarWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT: {
-      const PaintBuffer buffer(Handle());
+      const PaintBuffer buffer(Handle(), System().Sheet);
       PaintSurface(buffer.Context(), ClientArea(Handle()));
       return 0;
     }

@@ -149,7 +149,7 @@ LRESULT Window::Reflect(UINT message, WPARAM first, LPARAM second) {
 }
 
 void Window::Paint() {
-  const PaintBuffer buffer(handle_);
+  const PaintBuffer buffer(handle_, system_.Sheet);
   PaintSurface(buffer.Context(), ClientArea(handle_));
 }
 

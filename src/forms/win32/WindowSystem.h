@@ -13,6 +13,7 @@
 #include "forms/win32/Colors.h"
 #include "forms/win32/Fonts.h"
 #include "forms/win32/ImageStrips.h"
+#include "forms/win32/Painting.h"
 #include "forms/win32/Scale.h"
 #include "forms/win32/Win32Toolkit.h"
 
@@ -53,6 +54,7 @@ class WindowSystem final : public Win32Toolkit {
   Colors Palette;
   Fonts Typefaces;
   ImageStrips Images;
+  std::unique_ptr<PaintSheet> Sheet;  // of the paint that is to come
   const UINT TaskbarCreatedMessage;
 
  protected:
