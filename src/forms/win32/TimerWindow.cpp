@@ -1,5 +1,7 @@
 #include "forms/win32/TimerWindow.h"
 
+#include <utility>
+
 namespace vantrel::forms::win32 {
 namespace {
 
@@ -9,7 +11,7 @@ class TimerPeer final : public ControlPeer {
       : timer_(timer), form_(form), identifier_(static_cast<UINT_PTR>(identifier)) {
     Apply();
   }
-  ~TimerPeer() override { KillTimer(form_, identifier_); }
+  ~TimerPeer() override { Stop(); }
 
   void Changed(Aspect aspect) override {
     if (aspect == Aspect::Enabled || aspect == Aspect::Value) Apply();
@@ -18,16 +20,20 @@ class TimerPeer final : public ControlPeer {
   forms::Handle WindowHandle() const override { return 0; }
 
  private:
-  void Apply() const {
-    KillTimer(form_, identifier_);
-    if (timer_.Enabled() && timer_.Interval() > 0) {
-      SetTimer(form_, identifier_, static_cast<UINT>(timer_.Interval()), nullptr);
-    }
+  void Apply() {
+    Stop();
+    if (!timer_.Enabled() || timer_.Interval() <= 0) return;
+    SetTimer(form_, identifier_, static_cast<UINT>(timer_.Interval()), nullptr);
+    running_ = true;
+  }
+  void Stop() {
+    if (std::exchange(running_, false)) KillTimer(form_, identifier_);
   }
 
   Timer& timer_;
   HWND form_;
   UINT_PTR identifier_;
+  bool running_ = false;
 };
 
 }  // namespace
