@@ -66,7 +66,10 @@ void chkNAll_Click(Program& program) {
 void chkNS_Click(Program& program) {
   Panel& panel = *program.windows.FrmFrameNotification;
   EndSilence(panel, panel.chkNS);
-  panel.cmbsound.SetVisible(panel.chkNS.Value() != forms::Unchecked);
+  // A load ticks and clears the box on its way; the list is meant to stay visible then.
+  if (!program.LoadingSettings) {
+    panel.cmbsound.SetVisible(panel.chkNS.Value() != forms::Unchecked);
+  }
   SaveNotificationGuarded(program);
 }
 

@@ -129,11 +129,16 @@ TEST_F(Notification, TheSoundBoxShowsAndHidesTheList) {
 
 TEST_F(Notification, AStoredClearSoundLeavesTheListVisible) {
   program.LoadingSettings = true;
-  Panel().cmbsound.SetListIndex(0);
-  RemoveValue("Block Settings", "NSounds");
+  SetText("Block Settings", "NSounds", "pop");
+  SetNumber("Block Settings", "ShowSound", 0);
   settings::LoadBlockSettings(program);
+  program.LoadingSettings = false;
+  EXPECT_EQ(Panel().cmbsound.Text(), "pop");
   EXPECT_EQ(Panel().chkNS.Value(), 0);
   EXPECT_TRUE(Panel().cmbsound.Visible());
+  Click(Panel().chkNS);
+  Click(Panel().chkNS);
+  EXPECT_FALSE(Panel().cmbsound.Visible());
 }
 
 TEST_F(Notification, DefaultSetsTheFourBoxesAndKeepsTheSound) {
@@ -206,8 +211,7 @@ TEST_F(Notification, NothingIsSavedDuringALoad) {
   AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
   EXPECT_TRUE(Panel().cmbsound.UserLeaves());
   EXPECT_THAT(Writes(), IsEmpty());
-  Click(Panel().chkNS);
-  EXPECT_FALSE(Panel().cmbsound.Visible()) << "the other effects happen";
+  EXPECT_TRUE(Panel().cmbsound.Visible()) << "the list stays as it is";
 }
 
 TEST_F(Notification, DefaultSetsItsBoxesInOrder) {
