@@ -175,9 +175,10 @@ TEST_F(NavigationTest, TheHelpToolShowsTheFrameAndHidesNothing) {
   ExpectShown({Welcome, "FrmFrameNotification"}, "menu");
   EXPECT_FALSE(HelpShown());
   Program().ChooseMenu("submnuLaunchHelp");
+  // The title is the same before: the frame tells that the menu has answered.
+  EXPECT_TRUE(WaitFor([this] { return HelpShown(); }));
   ExpectTitle("Help - Qorvel Software Vantrel ", "menu");
   ExpectShown({Welcome, "FrmFrameNotification"}, "menu");
-  EXPECT_TRUE(HelpShown());
 }
 
 TEST_F(NavigationTest, SeparatorsOfTheToolbarDoNothing) {
