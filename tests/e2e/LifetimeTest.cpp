@@ -157,8 +157,8 @@ TEST_F(LifetimeTest, AMaximizedWindowKeepsItsSize) {
   EXPECT_GT(Size().cx, Pixels(9300));
   // Restored by the tray.
   Program().TrayCallback(WM_LBUTTONDBLCLK);
-  EXPECT_TRUE(WaitFor([&] { return IsZoomed(Window()) == FALSE; }));
-  EXPECT_EQ(Size().cx, Pixels(9300));
+  EXPECT_TRUE(WaitFor([&] { return IsZoomed(Window()) == FALSE && Size().cx == Pixels(9300); }))
+      << Size().cx;
 }
 
 TEST_F(LifetimeTest, TheHiddenButtonsMoveTheEnginesEntryAlone) {
