@@ -11,15 +11,7 @@ class BrokenStoreTest : public ProgramTest {
   // A store whose choices all differ from the designed ones, as a user may have left it.
   void SetUp() override {
     ProgramTest::SetUp();
-    for (const auto& [name, value] : FirstRunTree()) {
-      const auto slash = name.find('\\');
-      const std::string key = std::string(RootKey) + "\\" + name.substr(0, slash);
-      if (slash + 1 == name.size()) {
-        CreateKey(HKEY_CURRENT_USER, key);
-      } else {
-        Write(HKEY_CURRENT_USER, key, name.substr(slash + 1), value);
-      }
-    }
+    WriteTree(HKEY_CURRENT_USER, RootKey, FirstRunTree());
     for (const char* name : {"Popup", "DHTML", "WebDialog", "Banner", "Flash", "KeepaLog"}) {
       Write(HKEY_CURRENT_USER, BlockSettings, name, Dword(0));
     }

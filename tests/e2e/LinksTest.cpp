@@ -114,12 +114,12 @@ TEST_F(LinksTest, TheTestButtonStartsBlockingBeforeItOpensThePage) {
 
 TEST_F(LinksTest, WithoutABrowserTheClickEndsInABoxAndTheProgramGoesOn) {
   const std::string missing = TemporaryFolder() + "no browser.exe";
+  Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
   for (const std::string& command :
        {std::string("no quotes.exe %1"), std::string(), std::string("\"unclosed"),
         '"' + missing + "\" %1", '"' + std::string(2000, 'x') + "\" %1"}) {
-    RecordedBrowser browser(command.empty() ? std::string(1, '\0') : command);
-    Running program;
-    ASSERT_TRUE(program.WaitUntilIdle());
+    const RecordedBrowser browser(command.empty() ? std::string(1, '\0') : command);
     ExpectNoBrowserBox(program, "FrmFrameMain.Label6");
     // A Start that the click began is done; only the page is missing.
     ASSERT_TRUE(program.Click("FrmFrameMain.cmdstop"));
@@ -129,6 +129,7 @@ TEST_F(LinksTest, WithoutABrowserTheClickEndsInABoxAndTheProgramGoesOn) {
     EXPECT_TRUE(program.IsShown("frmMain.frahelp"));
     program.MouseClick("frmMain.LnkGraph");
     EXPECT_TRUE(program.WaitUntilVisible("FrmFrameGraph"));
+    EXPECT_FALSE(program.IsShown("frmMain.frahelp"));
   }
 }
 

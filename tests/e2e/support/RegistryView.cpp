@@ -9,6 +9,9 @@
 namespace vantrel::e2e {
 namespace {
 
+// How a tree tells the value without a name.
+constexpr const char* DefaultValue = "(default)";
+
 // An open key that closes itself.
 class Key {
  public:
@@ -37,9 +40,9 @@ std::string Join(const std::string& path, const std::string& name) {
 }
 
 void ReadValues(HKEY key, const std::string& prefix, Tree& tree) {
+  static std::vector<char> name(16384);
+  static std::vector<char> data(1 << 20);
   for (DWORD index = 0;; ++index) {
-    std::vector<char> name(16384);
-    std::vector<char> data(65536);
     DWORD nameLength = static_cast<DWORD>(name.size());
     DWORD dataLength = static_cast<DWORD>(data.size());
     DWORD type = 0;
@@ -47,8 +50,8 @@ void ReadValues(HKEY key, const std::string& prefix, Tree& tree) {
                       reinterpret_cast<BYTE*>(data.data()), &dataLength) != ERROR_SUCCESS) {
       return;
     }
-    tree[LowerCase(Join(prefix, std::string(name.data(), nameLength)))] = {
-        type, std::string(data.data(), dataLength)};
+    const std::string told = nameLength == 0 ? DefaultValue : std::string(name.data(), nameLength);
+    tree[LowerCase(Join(prefix, told))] = {type, std::string(data.data(), dataLength)};
   }
 }
 
@@ -64,7 +67,7 @@ void ReadInto(HKEY root, const std::string& path, const std::string& prefix, Tre
       return;
     }
     tree[LowerCase(Join(prefix, name) + "\\")] = {};
-    ReadInto(root, path + "\\" + name, Join(prefix, name), tree);
+    ReadInto(root, Join(path, name), Join(prefix, name), tree);
   }
 }
 
@@ -129,6 +132,19 @@ void Write(HKEY root, const std::string& key, const std::string& name, const Sto
 void DeleteValue(HKEY root, const std::string& key, const std::string& name) {
   const Key open(root, key, KEY_ALL_ACCESS);
   if (open.Get() != nullptr) RegDeleteValueA(open.Get(), name.c_str());
+}
+
+void WriteTree(HKEY root, const std::string& key, const Tree& tree) {
+  for (const auto& [name, value] : tree) {
+    const auto slash = name.rfind('\\');
+    if (slash + 1 == name.size()) {
+      CreateKey(root, Join(key, name.substr(0, slash)));
+    } else if (slash == std::string::npos) {
+      Write(root, key, name, value);
+    } else {
+      Write(root, Join(key, name.substr(0, slash)), name.substr(slash + 1), value);
+    }
+  }
 }
 
 void DeleteTree(HKEY root, const std::string& key) {
