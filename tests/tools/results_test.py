@@ -69,6 +69,15 @@ class Results(unittest.TestCase):
         self.assertEqual(["passed", "failed"],
                          self.states({"p": True}, {"p": "fail"}, {"p": self.suite(PASSED)}))
 
+    def test_a_second_run_counts_in_place_of_the_first(self):
+        first, second = self.suite(PASSED, FAILED), self.suite(PASSED)
+        self.assertEqual(["passed"], self.states({"p": True}, {"p": "run"},
+                                                 {"p": first, "p_1": second}))
+        # It crashed before it left its results: the first run's failure stands.
+        os.remove(os.path.join(self.folder, "p_1.xml"))
+        self.assertEqual(["passed", "failed"],
+                         self.states({"p": True}, {"p": "fail"}, {"p": first}))
+
     def test_a_program_that_ran_no_case_fails(self):
         self.assertEqual(["skipped", "failed"],
                          self.states({"p": True}, {"p": "run"}, {"p": self.suite(SKIPPED)}))
