@@ -7,17 +7,21 @@
 #include "platform/win32/Win32Platform.h"
 #include "program/Program.h"
 #include "shell/Attach.h"
+#include "shell/Lifetime.h"
 #include "shell/Startup.h"
 
 int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*/, int /*show*/) {
   using namespace vantrel;
-  // No library is loaded from the current folder.
+  // No library is loaded from the current folder, and one that cannot be loaded is the program's to
+  // tell, not a box of the system's.
   SetDllDirectoryA("");
+  SetErrorMode(SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   const auto platform = platform::win32::MakeWin32Platform();
   const auto toolkit = forms::win32::MakeWin32Toolkit(app::ProgramPictures());
   program::Program program(platform->Platform(), *toolkit);
   shell::AttachProgram(program);
   shell::Start(program);
   if (!toolkit->Ending()) toolkit->RunMessageLoop();
+  shell::Finish(program);
   return 0;
 }

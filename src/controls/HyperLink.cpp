@@ -23,10 +23,11 @@ forms::Color ColorOf(const std::string& text) {
   return static_cast<forms::Color>(text::CLng(text));
 }
 
-// A font is written as its name, its size in tenths of a point, and its two flags.
+// A font is written as its size in hundredths of a point, its two flags and its name, which is the
+// last since it may hold what separates the others.
 std::string FontText(const forms::Font& font) {
-  return std::string(font.Name) + ";" + std::to_string(text::RoundToLong(font.Size * 10)) + ";" +
-         BooleanText(font.Bold) + ";" + BooleanText(font.Underline);
+  return std::to_string(text::RoundToLong(font.Size * 100)) + ";" + BooleanText(font.Bold) + ";" +
+         BooleanText(font.Underline) + ";" + font.Name;
 }
 
 [[noreturn]] void RaiseInvalidValue() {
@@ -35,8 +36,8 @@ std::string FontText(const forms::Font& font) {
 
 }  // namespace
 
-// One row a property: its text, the defaults of reading and of writing, and how a text becomes
-// its value.
+// One row a property but the font, whose text does not tell all of it: its text, the defaults of
+// reading and of writing, and how a text becomes its value.
 struct HyperLink::Property {
   const char* Name;
   std::string (*Text)(const HyperLink&);
@@ -65,10 +66,6 @@ std::string DefaultHoverColor(const HyperLink&) {
 }  // namespace
 
 const HyperLink::Property HyperLink::Properties[] = {
-    {"font", [](const HyperLink& link) { return FontText(link.Font()); },
-     [](const HyperLink& link) { return FontText(link.ContainerFont()); },
-     [](const HyperLink& link) { return FontText(link.ContainerFont()); },
-     [](HyperLink& link, const std::string& text) { link.ReadFont(text); }},
     {"enabled", [](const HyperLink& link) { return BooleanText(link.Enabled()); },
      DefaultBoolean<true>, DefaultBoolean<true>,
      [](HyperLink& link, const std::string& text) { link.ShowEnabled(Boolean(text)); }},
@@ -89,12 +86,16 @@ const HyperLink::Property HyperLink::Properties[] = {
     {"hovercolor", [](const HyperLink& link) { return ColorText(link.hoverColor_); },
      DefaultHoverColor, DefaultHoverColor,
      [](HyperLink& link, const std::string& text) { link.hoverColor_ = ColorOf(text); }},
-    {"appearance", [](const HyperLink& link) { return std::to_string(link.appearance_); },
+    {"appearance", [](const HyperLink& link) { return std::to_string(link.Appearance()); },
      DefaultNumber<1>, DefaultNumber<1>,
-     [](HyperLink& link, const std::string& text) { link.appearance_ = text::CInt(text); }},
-    {"borderstyle", [](const HyperLink& link) { return std::to_string(link.borderStyle_); },
+     [](HyperLink& link, const std::string& text) {
+       link.lblHyperlink.SetAppearance(text::CInt(text));
+     }},
+    {"borderstyle", [](const HyperLink& link) { return std::to_string(link.BorderStyle()); },
      DefaultNumber<0>, DefaultNumber<0>,
-     [](HyperLink& link, const std::string& text) { link.borderStyle_ = text::CInt(text); }},
+     [](HyperLink& link, const std::string& text) {
+       link.lblHyperlink.SetBorderStyle(text::CInt(text));
+     }},
     {"forecolor", [](const HyperLink& link) { return ColorText(link.ForeColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
      [](const HyperLink& link) { return ColorText(link.ContainerForeColor()); },
@@ -212,12 +213,12 @@ void HyperLink::SetHoverColor(forms::Color color) {
 }
 
 void HyperLink::SetAppearance(std::int16_t appearance) {
-  appearance_ = appearance;
+  lblHyperlink.SetAppearance(appearance);
   PropertyChanged("Appearance");
 }
 
 void HyperLink::SetBorderStyle(std::int16_t borderStyle) {
-  borderStyle_ = borderStyle;
+  lblHyperlink.SetBorderStyle(borderStyle);
   PropertyChanged("BorderStyle");
 }
 
@@ -257,15 +258,18 @@ void HyperLink::SetMOPointer(bool pointer) {
 }
 
 void HyperLink::ReadProperties(const PropertyBag& bag) {
+  ReadFont(bag);
   for (const Property& property : Properties) {
     property.Assign(*this, bag.ReadProperty(property.Name, property.ReadDefault(*this)));
   }
+  ReadExtent(bag);
   SyncSize();
 }
 
 void HyperLink::WriteProperties(PropertyBag& bag) const {
   bag.WriteProperty("_extentx", std::to_string(At().Width));
   bag.WriteProperty("_extenty", std::to_string(At().Height));
+  if (Font() != ContainerFont()) bag.WriteProperty("font", FontText(Font()));
   for (const Property& property : Properties) {
     bag.WriteProperty(property.Name, property.Text(*this), property.WriteDefault(*this));
   }
@@ -339,15 +343,25 @@ void HyperLink::ShowToolTip() {
   lblHyperlink.SetToolTipText(autoToolTip_ ? address_ : ToolTipText());
 }
 
-void HyperLink::ReadFont(const std::string& text) {
-  const std::vector<std::string> parts = text::Split(text, ';');
-  if (parts.size() != 4) RaiseInvalidValue();
-  forms::Font font;
-  font.Name = parts[0].c_str();
-  font.Size = text::CInt(parts[1]) / 10.0;
-  font.Bold = Boolean(parts[2]);
-  font.Underline = Boolean(parts[3]);
-  ShowFont(font);
+void HyperLink::ReadFont(const PropertyBag& bag) {
+  if (!bag.Contains("font")) return ShowFont(ContainerFont());
+  const std::vector<std::string> parts = text::Split(bag.ReadProperty("font", ""), ';');
+  if (parts.size() < 4) RaiseInvalidValue();
+  std::string name = parts[3];
+  for (std::size_t at = 4; at < parts.size(); ++at) name += ';' + parts[at];
+  ShowFont({.Name = name.c_str(),
+            .Size = text::CLng(parts[0]) / 100.0,
+            .Bold = Boolean(parts[1]),
+            .Underline = Boolean(parts[2])});
+}
+
+// Behind the other properties: what a change of size leads to depends on AutoSize.
+void HyperLink::ReadExtent(const PropertyBag& bag) {
+  forms::Place place = At();
+  place.Width = text::CLng(bag.ReadProperty("_extentx", std::to_string(place.Width)));
+  place.Height = text::CLng(bag.ReadProperty("_extenty", std::to_string(place.Height)));
+  if (place.Width < 0 || place.Height < 0) RaiseInvalidValue();
+  Move(place);
 }
 
 void HyperLink::LabelMoved(int button, int shift, float x, float y) {

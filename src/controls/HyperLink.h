@@ -38,7 +38,7 @@ class HyperLink : public forms::UserControl {
   void SetEnabled(bool enabled);
   const std::string& Caption() const { return lblHyperlink.Caption(); }
   void SetCaption(const std::string& caption);
-  // 0 left, 1 right, 2 centred; error 380 for anything else.
+  // 0 left, 1 right, 2 centred; error 380 for anything else, and so below.
   std::int16_t Alignment() const { return static_cast<std::int16_t>(lblHyperlink.Alignment()); }
   void SetAlignment(std::int16_t alignment);
   bool AutoSize() const { return lblHyperlink.AutoSize(); }
@@ -48,9 +48,11 @@ class HyperLink : public forms::UserControl {
   void SetHyperLink(const std::string& address);
   forms::Color HoverColor() const { return hoverColor_; }
   void SetHoverColor(forms::Color color);
-  std::int16_t Appearance() const { return appearance_; }
+  // 0 flat, 1 three-dimensional.
+  std::int16_t Appearance() const { return static_cast<std::int16_t>(lblHyperlink.Appearance()); }
   void SetAppearance(std::int16_t appearance);
-  std::int16_t BorderStyle() const { return borderStyle_; }
+  // 0 none, 1 a single line.
+  std::int16_t BorderStyle() const { return static_cast<std::int16_t>(lblHyperlink.BorderStyle()); }
   void SetBorderStyle(std::int16_t borderStyle);
   forms::Color ForeColor() const { return lblHyperlink.ForeColor(); }
   void SetForeColor(forms::Color color);
@@ -67,8 +69,8 @@ class HyperLink : public forms::UserControl {
   bool MOPointer() const { return moPointer_; }
   void SetMOPointer(bool pointer);
 
-  // Takes what is saved, and the defaults for the rest, without reporting changes. Error 13 or 6
-  // for a text that is no value of its property.
+  // Takes what is saved, and the defaults for the rest, without reporting changes; an extent that
+  // is not saved stays. Error 13, 6 or 380 for a text that is no value of its property.
   void ReadProperties(const PropertyBag& bag);
   // Saves what differs from the defaults, and the extent in twips. A caption equal to the one that
   // a missing entry reads as is saved all the same: the two defaults differ, and are meant to.
@@ -100,6 +102,8 @@ class HyperLink : public forms::UserControl {
   void KeyPressed() override { UserClick(); }
   void Resized() override { SyncSize(); }
   Control* Face() override { return &lblHyperlink; }
+  // Every entry of the mouse gives the label its tool tip, which may be the empty text.
+  bool FaceHasTip() const override { return true; }
   void AssignWindowText(const std::string& text) override { SetCaption(text); }
 
   forms::Label lblHyperlink;
@@ -118,7 +122,8 @@ class HyperLink : public forms::UserControl {
   void ShowAlignment(std::int16_t alignment);
   void ShowUnderline(bool underline);
   void ShowToolTip();
-  void ReadFont(const std::string& text);
+  void ReadFont(const PropertyBag& bag);
+  void ReadExtent(const PropertyBag& bag);
 
   void LabelMoved(int button, int shift, float x, float y);
   void LabelClicked();
@@ -131,8 +136,6 @@ class HyperLink : public forms::UserControl {
   std::string address_ = SampleAddress;
   forms::Color hoverColor_ = forms::palette::DefaultHover;
   forms::Color savedForeColor_ = 0;
-  std::int16_t appearance_ = 1;
-  std::int16_t borderStyle_ = 0;
   std::int16_t soundId_ = 101;
   bool autoToolTip_ = true;
   bool soundOn_ = true;

@@ -16,6 +16,10 @@ auto FindEntry(Entries& entries, std::string_view name) {
 
 }  // namespace
 
+bool PropertyBag::Contains(std::string_view name) const {
+  return FindEntry(entries_, name) != entries_.end();
+}
+
 std::string PropertyBag::ReadProperty(std::string_view name, const std::string& defaultText) const {
   const auto found = FindEntry(entries_, name);
   return found == entries_.end() ? defaultText : found->Text;

@@ -20,6 +20,7 @@ class PropertyBag {
   PropertyBag() = default;
   PropertyBag(std::initializer_list<Entry> entries) : entries_(entries) {}
 
+  bool Contains(std::string_view name) const;
   // The text saved under the name, or the default if there is none.
   std::string ReadProperty(std::string_view name, const std::string& defaultText) const;
   // Saves the text under the name, replacing an earlier one; a text equal to the default is left

@@ -38,6 +38,21 @@ void Label::SetAutoSize(bool autoSize) {
   Changed(Aspect::Place);
 }
 
+void Label::SetAppearance(int appearance) {
+  Require(appearance == Flat || appearance == ThreeD);
+  if (appearance_ == appearance) return;
+  appearance_ = appearance;
+  Changed(Aspect::Color);
+}
+
+void Label::SetBorderStyle(int borderStyle) {
+  Require(borderStyle == NoBorder || borderStyle == SingleLine);
+  if (borderStyle_ == borderStyle) return;
+  borderStyle_ = borderStyle;
+  // Like a font, a border changes what room the text needs.
+  Changed(Aspect::Font);
+}
+
 CommandButton::CommandButton(Form& form, std::string name, const Design& design)
     : CaptionedControl(form, std::move(name), design),
       default_(design.Default),

@@ -9,6 +9,11 @@
 
 namespace vantrel::forms {
 
+inline constexpr int Flat = 0;
+inline constexpr int ThreeD = 1;
+inline constexpr int NoBorder = 0;
+inline constexpr int SingleLine = 1;
+
 // A label; drawn as a link it is clicked, by mouse and keyboard. Change is raised when its caption
 // changes.
 class Label : public CaptionedControl {
@@ -22,10 +27,19 @@ class Label : public CaptionedControl {
   bool AutoSize() const { return autoSize_; }
   void SetAutoSize(bool autoSize);
 
+  // Both are 0 or 1, error 380 for anything else. A border is drawn where the label is the face of
+  // a user control, always as a plain line.
+  int Appearance() const { return appearance_; }
+  void SetAppearance(int appearance);
+  int BorderStyle() const { return borderStyle_; }
+  void SetBorderStyle(int borderStyle);
+
   Event<> Change;
 
  private:
   bool autoSize_ = false;
+  int appearance_ = ThreeD;
+  int borderStyle_ = NoBorder;
 };
 
 class CommandButton : public CaptionedControl {
@@ -89,6 +103,7 @@ class OptionButton : public CaptionedControl {
 struct TextBoxDesign {
   bool ReadOnly = false;
   bool MultiLine = false;
+  bool WordWrap = true;  // breaks the lines of a multi-line box at its edge
 };
 
 class TextBox : public Control {
@@ -105,6 +120,7 @@ class TextBox : public Control {
 
   bool ReadOnly() const { return box_.ReadOnly; }
   bool MultiLine() const { return box_.MultiLine; }
+  bool WordWrap() const { return box_.WordWrap; }
 
   Event<> Change;
 

@@ -132,6 +132,7 @@ void Form::ShowModal() {
   Show();
   if (peer_ && visible_) {
     const Toolkit::Pumping pumping(toolkit_);
+    const Raised modal(modal_);
     peer_->RunModal();
   }
   toolkit_.ThrowIfEnding();

@@ -82,6 +82,8 @@ class Form {
   void ShowModal();
   void Hide();
   bool Visible() const { return visible_; }
+  // While ShowModal runs: the other windows take no input.
+  bool Modal() const { return modal_; }
   // Whether it shows: it and the windows that host it are visible.
   bool Shown() const;
 
@@ -159,6 +161,7 @@ class Form {
   Form* host_ = nullptr;
   unsigned resizes_ = 0;
   bool visible_ = false;
+  bool modal_ = false;
   bool initialized_ = false;
   bool loaded_ = false;
   bool unloading_ = false;

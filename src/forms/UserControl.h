@@ -18,6 +18,9 @@ class UserControl : public Control {
   virtual void KeyPressed() {}
   // The control whose text and pointer the surface shows, nullptr for none.
   virtual Control* Face() { return nullptr; }
+  // Whether the face's tool tip shows whatever it is; otherwise the surface's own stands in for one
+  // that is empty.
+  virtual bool FaceHasTip() const { return false; }
 };
 
 }  // namespace vantrel::forms

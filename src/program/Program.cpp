@@ -1,5 +1,7 @@
 #include "program/Program.h"
 
+#include <algorithm>
+
 namespace vantrel::program {
 namespace {
 
@@ -10,8 +12,14 @@ void ShowUntrapped(Program& program, const text::RuntimeError& error) {
                  platform::StyleCritical);
 }
 
-// The window that a box belongs to: none while the main window is hidden or not made yet.
-platform::WindowHandle BoxOwner(Windows& windows) {
+// The window that a box belongs to: the dialog that keeps the others from being used, else the main
+// window; none while that is hidden or not made yet.
+platform::WindowHandle BoxOwner(const forms::Toolkit& toolkit, Windows& windows) {
+  const auto& loaded = toolkit.LoadedForms();
+  const auto dialog = std::find_if(loaded.rbegin(), loaded.rend(), [](const forms::Form* form) {
+    return form->Modal() && form->Visible();
+  });
+  if (dialog != loaded.rend()) return (*dialog)->hWnd();
   if (!windows.frmMain.Loaded() || !windows.frmMain->Visible()) return 0;
   return windows.frmMain->hWnd();
 }
@@ -30,7 +38,7 @@ std::string Program::PathOf(const std::string& literal) const {
 }
 
 int Program::MsgBox(const std::string& text, std::uint32_t style, const std::string& title) {
-  const int answer = platform.dialogs.MessageBoxA(BoxOwner(windows), text, title, style);
+  const int answer = platform.dialogs.MessageBoxA(BoxOwner(toolkit, windows), text, title, style);
   toolkit.ThrowIfEnding();
   return answer;
 }

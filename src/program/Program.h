@@ -43,6 +43,11 @@ class Program {
   platform::NotifyIconData TrayIcon;
   // The record of the main window's own icon, which is never added.
   platform::NotifyIconData MainTrayIcon;
+  // The search for a running copy's window: what is looked for, whether it was found, and where.
+  // Not reset between searches; a process searches once.
+  std::string SearchCaption;
+  bool WindowFound = false;
+  platform::WindowHandle FoundWindow = 0;
   // A window procedure; never assigned, so it stays 0.
   std::int32_t OldWindowProc = 0;
 

@@ -1,6 +1,7 @@
 #include "shell/CommandChannel.h"
 
 #include <algorithm>
+#include <exception>
 #include <iterator>
 
 #include "shell/Navigation.h"
@@ -74,6 +75,13 @@ void TraceCommand(Program& program, const std::string& command) {
   trace.SetText(before + "Excuted with command: " + command);
 }
 
+void OpenChannel(Program& program) {
+  forms::CommandButton& mailbox = program.windows.frmMain->cmdDummy;
+  mailbox.SetCaption(ReadyForCommand);
+  // Senders look for a window: it stands from here on, also while the main window stays hidden.
+  static_cast<void>(mailbox.WindowHandle());
+}
+
 }  // namespace
 
 void cmdDummy_Click(Program& program) {
@@ -81,12 +89,14 @@ void cmdDummy_Click(Program& program) {
   const std::string command = program.windows.frmMain->cmdDummy.Caption();
   try {
     DispatchCommand(program, command);
-  } catch (const text::RuntimeError&) {
-    // The box of the error is not the end of the channel.
-    program.windows.frmMain->cmdDummy.SetCaption(ReadyForCommand);
+  } catch (const std::exception&) {
+    program.toolkit.ThrowIfEnding();
+    // The box of the error is the end neither of the channel nor of the window.
+    OpenChannel(program);
+    ShowMainWindow(program);
     throw;
   }
-  program.windows.frmMain->cmdDummy.SetCaption(ReadyForCommand);
+  OpenChannel(program);
 }
 
 void DispatchCommand(Program& program, const std::string& command) {

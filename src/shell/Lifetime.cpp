@@ -75,6 +75,11 @@ void RestoreWindowProc(Program& program, forms::Form& form) {
   program.platform.desktop.SetWindowLongA(form.hWnd(), GwlWndProc, program.OldWindowProc);
 }
 
+void Finish(Program& program) {
+  if (program.toolkit.Ending() || !program.windows.frmMain.Loaded()) return;
+  program.toolkit.AtBorder([&program] { program.windows.frmMain->Unload(forms::UnloadBySystem); });
+}
+
 void AttachLifetime(Program& program, windows::frmMain& form) {
   form.Resize = [&form] { frmMain_Resize(form); };
   form.QueryUnload = [&program](bool& cancel, int mode) {

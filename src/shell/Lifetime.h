@@ -14,6 +14,10 @@ void UnloadAllForms(program::Program& program);
 // call has no effect. It stays; this is meant.
 void RestoreWindowProc(program::Program& program, forms::Form& form);
 
+// The final shutdown where messages have ended without the program's own doing, as when another
+// program posts a WM_QUIT; nothing if the program is ending already.
+void Finish(program::Program& program);
+
 void AttachLifetime(program::Program& program, windows::frmMain& form);
 
 }  // namespace vantrel::shell

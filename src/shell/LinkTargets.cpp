@@ -1,5 +1,8 @@
 #include "shell/LinkTargets.h"
 
+#include <iterator>
+#include <string_view>
+#include <type_traits>
 #include <variant>
 
 #include "shell/launch/OpenUrl.h"
@@ -26,18 +29,22 @@ using windows::frmMain;
 template <class Window>
 using LabelOf = forms::Label Window::*;
 
-// A label of one of the windows, or an entry of the main window's menus.
-using Source = std::variant<
-    LabelOf<frmMain>, LabelOf<FrmAbout>, LabelOf<FrmFrameMain>, LabelOf<FrmFrameBlockPreferences>,
-    LabelOf<FrmFrameSettings>, LabelOf<FrmFrameHistory>, LabelOf<FrmFrameAllowList>,
-    LabelOf<FrmFrameNotification>, LabelOf<FrmFrameIESettings>, LabelOf<FrmFrameIEPlugin>,
-    LabelOf<FrmFrameGraph>, LabelOf<FrmFrameLog>, forms::Menu frmMain::*>;
+// A label of one of the windows, or an entry of the main window's menus. Nothing for a control that
+// does something else before its page opens: its own act opens it.
+using Source = std::variant<std::monostate, LabelOf<frmMain>, LabelOf<FrmAbout>,
+                            LabelOf<FrmFrameMain>, LabelOf<FrmFrameBlockPreferences>,
+                            LabelOf<FrmFrameSettings>, LabelOf<FrmFrameHistory>,
+                            LabelOf<FrmFrameAllowList>, LabelOf<FrmFrameNotification>,
+                            LabelOf<FrmFrameIESettings>, LabelOf<FrmFrameIEPlugin>,
+                            LabelOf<FrmFrameGraph>, LabelOf<FrmFrameLog>, forms::Menu frmMain::*>;
 
 struct Row {
   const char* name;
   Source source;
   launch::Target target;
 };
+
+constexpr Source OwnAct{};
 
 #define VANTREL_LINK(window, control) #window "." #control, Source(&window::control)
 
@@ -50,7 +57,14 @@ constexpr Row Rows[] = {
     {VANTREL_LINK(FrmFrameMain, Label62), {Base::FirstHost, "/Vantrel"}},
     {VANTREL_LINK(frmMain, mnusysupdates), {Base::SecondHost, "/Vantrel/Update.asp"}},
     {VANTREL_LINK(frmMain, mnusystellf), {Base::FirstHost, "/Vantrel/TellaFriend.asp"}},
-    // The help pages.
+    {"FrmFrameSettings.Command4", OwnAct, launch::UpdatesPage},
+    // The outside test page, behind a start of blocking.
+    {"frmMain.mnutest", OwnAct, launch::PopupTestPage},
+    {"FrmFrameMain.cmdtest", OwnAct, launch::PopupTestPage},
+    // The help pages; the first three show the Help frame before.
+    {"frmMain.LnkHelp", OwnAct, launch::WelcomeHelp},
+    {"frmMain.submnuLaunchHelp", OwnAct, launch::WelcomeHelp},
+    {"frmMain.Toolbar1(15)", OwnAct, launch::WelcomeHelp},
     {VANTREL_LINK(frmMain, Label32), launch::WelcomeHelp},
     {VANTREL_LINK(frmMain, Label57), launch::WelcomeHelp},
     {VANTREL_LINK(frmMain, Label61), launch::WelcomeHelp},
@@ -126,6 +140,16 @@ constexpr Row Rows[] = {
 };
 
 #undef VANTREL_LINK
+
+constexpr bool NamesAreUnique() {
+  for (std::size_t one = 0; one < std::size(Rows); ++one) {
+    for (std::size_t other = one + 1; other < std::size(Rows); ++other) {
+      if (std::string_view(Rows[one].name) == Rows[other].name) return false;
+    }
+  }
+  return true;
+}
+static_assert(NamesAreUnique(), "a control opens one page");
 
 template <class Window, class Member>
 void Bind(Program& program, Window& window, Member Window::*member, const launch::Target& target) {

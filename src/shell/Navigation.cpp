@@ -83,6 +83,18 @@ constexpr bool Ascending() {
 }
 static_assert(Ascending(), "a tool button has one row");
 
+// Whether no two rows of a table are for the same control.
+template <class Row, std::size_t Count, class Member>
+constexpr bool EachOnce(const Row (&rows)[Count], Member Row::*control) {
+  for (std::size_t one = 0; one < Count; ++one) {
+    for (std::size_t other = one + 1; other < Count; ++other) {
+      if (rows[one].*control == rows[other].*control) return false;
+    }
+  }
+  return true;
+}
+static_assert(EachOnce(Links, &LinkRow::link), "a link has one row");
+
 void PressTool(Program& program, int index) {
   for (const ToolRow& row : Tools) {
     if (row.index != index) continue;
@@ -143,6 +155,7 @@ constexpr MenuRow MenuEntries[] = {
     {&frmMain::submnuLaunchHelp, LaunchHelp, Plain},
     {&frmMain::submnuAbout, ShowAbout, Plain},
 };
+static_assert(EachOnce(MenuEntries, &MenuRow::entry), "a menu entry has one row");
 
 }  // namespace
 

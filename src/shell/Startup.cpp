@@ -24,11 +24,15 @@ constexpr int StartWidth = 9300;
 constexpr int StartHeight = 6998;
 constexpr double OldestBrowser = 6;
 
-// Only the first character counts: version 10 is refused like version 1. This is meant.
+// Only the first character counts: version 10 is refused like version 1. This is meant. A damaged
+// value opens no gate.
 bool BrowserIsRecent(Program& program) {
-  const std::string version =
-      settings::ReadRegistryValue(program.platform.registry, platform::HKeyLocalMachine,
-                                  "SOFTWARE\\Microsoft\\Internet Explorer", "Version");
+  std::string version;
+  text::ErrorTrap trap;
+  trap([&] {
+    version = settings::ReadRegistryValue(program.platform.registry, platform::HKeyLocalMachine,
+                                          "SOFTWARE\\Microsoft\\Internet Explorer", "Version");
+  });
   return text::Val(version.substr(0, 1)) >= OldestBrowser;
 }
 

@@ -6,28 +6,21 @@ namespace vantrel::shell {
 namespace {
 
 using platform::WindowHandle;
+using program::Program;
 
-// One search, from the desktop's windows into their children.
-struct Search {
-  platform::Desktop& desktop;
-  const std::string& SearchCaption;
-  bool WindowFound = false;
-  WindowHandle FoundWindow = 0;
+bool EnumChildWindowsProc(Program& program, WindowHandle window) {
+  if (GetWindowCaption(program.platform.desktop, window) != program.SearchCaption) return true;
+  program.WindowFound = true;
+  program.FoundWindow = window;
+  return false;
+}
 
-  bool EnumChildWindowsProc(WindowHandle window) {
-    if (GetWindowCaption(desktop, window) != SearchCaption) return true;
-    WindowFound = true;
-    FoundWindow = window;
-    return false;
-  }
-
-  bool EnumTopWindowsProc(WindowHandle window) {
-    if (WindowFound) return false;
-    desktop.EnumChildWindows(window,
-                             [this](WindowHandle child) { return EnumChildWindowsProc(child); });
-    return true;
-  }
-};
+bool EnumTopWindowsProc(Program& program, WindowHandle window) {
+  if (program.WindowFound) return false;
+  program.platform.desktop.EnumChildWindows(
+      window, [&program](WindowHandle child) { return EnumChildWindowsProc(program, child); });
+  return true;
+}
 
 }  // namespace
 
@@ -37,10 +30,11 @@ std::string GetWindowCaption(platform::Desktop& desktop, WindowHandle window) {
   return count > 0 ? std::string(buffer.data(), static_cast<std::size_t>(count)) : std::string();
 }
 
-WindowHandle FindWindowByCaption(platform::Desktop& desktop, const std::string& caption) {
-  Search search{desktop, caption};
-  desktop.EnumWindows([&search](WindowHandle window) { return search.EnumTopWindowsProc(window); });
-  return search.FoundWindow;
+WindowHandle FindWindowByCaption(Program& program, const std::string& caption) {
+  program.SearchCaption = caption;
+  program.platform.desktop.EnumWindows(
+      [&program](WindowHandle window) { return EnumTopWindowsProc(program, window); });
+  return program.FoundWindow;
 }
 
 void ActivateWindow(platform::Desktop& desktop, WindowHandle window) {
@@ -49,9 +43,9 @@ void ActivateWindow(platform::Desktop& desktop, WindowHandle window) {
   desktop.SetForegroundWindow(window);
 }
 
-void SendCommand(program::Program& program, const std::string& command) {
+void SendCommand(Program& program, const std::string& command) {
   platform::Desktop& desktop = program.platform.desktop;
-  const WindowHandle button = FindWindowByCaption(desktop, ReadyForCommand);
+  const WindowHandle button = FindWindowByCaption(program, ReadyForCommand);
   ActivateWindow(desktop, desktop.GetParent(button));
   desktop.SendTextMessageA(button, platform::WmSetText, 0, command);
   desktop.SendMessageA(button, platform::BmClick, 0, 0);

@@ -16,8 +16,9 @@ inline constexpr const char* ReadyForCommand = "Ready for command";
 std::string GetWindowCaption(platform::Desktop& desktop, platform::WindowHandle window);
 
 // The first child window on the desktop with exactly this caption, 0 if there is none. Top-level
-// windows themselves are not compared.
-platform::WindowHandle FindWindowByCaption(platform::Desktop& desktop, const std::string& caption);
+// windows themselves are not compared. A process searches once: after a match, every further search
+// gives that match again.
+platform::WindowHandle FindWindowByCaption(program::Program& program, const std::string& caption);
 
 // Brings a window forward, restoring it if it is minimised; nothing for handle 0.
 void ActivateWindow(platform::Desktop& desktop, platform::WindowHandle window);

@@ -32,6 +32,8 @@ void UpdateRows(Program& program, forms::ListView& list) {
 
 // The rows come out as freshly added ones, with the first selected.
 void ShowRows(Program& program) {
+  // A panel that is made now fills the list itself, before anybody looks at it here.
+  static_cast<void>(*program.windows.FrmFrameGraph);
   forms::ListView& list = program.windows.FrmFrameLog->lstLog;
   if (list.Count() == static_cast<int>(Counters.size())) {
     UpdateRows(program, list);

@@ -3,7 +3,7 @@
 namespace vantrel::windows {
 
 FrmFrameGraph::FrmFrameGraph(forms::Toolkit& toolkit)
-    : Form(toolkit, "FrmFrameGraph", PanelDesign("Graph")) {
+    : Form(toolkit, "FrmFrameGraph", PanelDesign("Graphs and Statistics")) {
   txtPop.SetBackColor(forms::palette::Popups);
   txtDHTML.SetBackColor(forms::palette::Dhtml);
   txtWebD.SetBackColor(forms::palette::Dialogs);

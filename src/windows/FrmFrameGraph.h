@@ -64,7 +64,7 @@ class FrmFrameGraph : public forms::Form {
   forms::TextBox txtFlash{
       Graphs, "txtFlash", {.Caption = "90", .At = Grid(280, 184, 62, 20)}, {.ReadOnly = true}};
   forms::Label lbltotallog{
-      Graphs, "lbltotallog", {.Caption = "Total:", .At = Grid(272, 224, 158, 15)}};
+      Graphs, "lbltotallog", {.Caption = "Total:", .At = Grid(280, 224, 150, 15)}};
   forms::CommandButton Command12{
       Graphs,
       "Command12",

@@ -2,6 +2,7 @@
 #ifndef VANTREL_WINDOWS_FRMFRAMEIESETTINGS_H_
 #define VANTREL_WINDOWS_FRMFRAMEIESETTINGS_H_
 
+#include "forms/CommonDialog.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "windows/Grid.h"
@@ -74,6 +75,9 @@ class FrmFrameIESettings : public forms::Form {
       {.Caption = "Restore",
        .At = Grid(16, 236, 92, 23),
        .ToolTipText = "Restore your Internet explorer registry settings"}};
+
+  // Stands on the panel and is not used.
+  forms::CommonDialog CommonDialog2{*this, "CommonDialog2"};
 };
 
 }  // namespace vantrel::windows

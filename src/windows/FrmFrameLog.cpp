@@ -3,6 +3,6 @@
 namespace vantrel::windows {
 
 FrmFrameLog::FrmFrameLog(forms::Toolkit& toolkit)
-    : Form(toolkit, "FrmFrameLog", PanelDesign("Detail Log")) {}
+    : Form(toolkit, "FrmFrameLog", PanelDesign("Detail Logs")) {}
 
 }  // namespace vantrel::windows

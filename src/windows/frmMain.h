@@ -208,13 +208,15 @@ class frmMain : public forms::Form {
                                 {forms::StatusPanelKind::Date, "", Steps(100)},
                                 {forms::StatusPanelKind::Time, "", Steps(100)}}};
 
-  // Never seen: the mailbox of commands with its trace, and two named ways to the engine's entry.
+  // Never seen: the mailbox of commands, which the start hides, with its trace, and two named ways
+  // to the engine's entry.
   forms::CommandButton cmdDummy{
-      *this, "cmdDummy", {.Caption = "Command", .At = Grid(160, 366, 76, 23), .Visible = false}};
+      *this, "cmdDummy", {.Caption = "Command", .At = Grid(160, 366, 76, 23)}};
+  // Nobody sees the lines: breaking those of long commands would cost the receiver seconds.
   forms::TextBox Text1{*this,
                        "Text1",
                        {.Caption = "Text1", .At = Grid(240, 366, 100, 20), .Visible = false},
-                       {.MultiLine = true}};
+                       {.MultiLine = true, .WordWrap = false}};
   forms::CommandButton cmdADDBHO{
       *this, "cmdADDBHO", {.Caption = "AddBHO", .At = Grid(350, 366, 76, 23), .Visible = false}};
   forms::CommandButton cmdRemoveBHO{

@@ -70,6 +70,20 @@ TEST_F(CommandTest, EachPanelCommandShowsItsPanelOverWhatWasThere) {
   EXPECT_TRUE(receiver.Alive());
 }
 
+TEST_F(CommandTest, TheToolbarsDialogShowsAloneAlsoIfTheWindowWasMinimizedInTheTray) {
+  Running receiver;
+  AwaitReceiver(receiver);
+  ASSERT_TRUE(receiver.Click("FrmFrameSettings.chkGHideSystray"));
+  HWND window = receiver.Find("frmMain");
+  ShowWindow(window, SW_MINIMIZE);
+  ASSERT_TRUE(WaitFor([&] { return IsIconic(window) != FALSE; }));
+  receiver.PressCloseBox();
+  ASSERT_TRUE(receiver.WaitUntilVisible("frmMain", false));
+  Send("/customtoolbar");
+  EXPECT_TRUE(receiver.IsVisible("frmcustom"));
+  EXPECT_FALSE(receiver.IsShown("frmMain"));
+}
+
 TEST_F(CommandTest, OnOffTogglesBlocking) {
   Running receiver;
   AwaitReceiver(receiver);

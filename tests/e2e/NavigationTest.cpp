@@ -198,7 +198,7 @@ TEST_F(NavigationTest, StartOfTheToolbarGoesThroughAStop) {
   EXPECT_TRUE(Program().IsEnabled("FrmFrameMain.cmdstop"));
   Program().PressTool(4);
   EXPECT_TRUE(WaitFor([&] { return Program().IsEnabled("FrmFrameMain.cmdstart"); }));
-  EXPECT_FALSE(KeyExists(HKEY_LOCAL_MACHINE, EngineKey));
+  EXPECT_TRUE(WaitFor([&] { return !KeyExists(HKEY_LOCAL_MACHINE, EngineKey); }));
   Program().ChooseMenu("MnuStartBlocking");
   EXPECT_TRUE(WaitFor([&] { return KeyExists(HKEY_LOCAL_MACHINE, EngineKey); }));
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
@@ -212,6 +212,7 @@ TEST_F(NavigationTest, TheTestEntryStartsWithTheFlagAsItStands) {
   EXPECT_TRUE(WaitFor([] { return Number(BlockSettings, "GDisabled") == 0; }));
   Program().ChooseMenu("MnuStop");
   ASSERT_TRUE(WaitFor([&] { return Program().IsEnabled("FrmFrameMain.cmdstart"); }));
+  ASSERT_TRUE(WaitFor([&] { return !KeyExists(HKEY_LOCAL_MACHINE, EngineKey); }));
   Program().ChooseMenu("mnutest");
   EXPECT_TRUE(WaitFor([&] { return KeyExists(HKEY_LOCAL_MACHINE, EngineKey); }));
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);

@@ -1,6 +1,6 @@
 // The four panels of choices, clicked through from an empty store and from a stored one: after each
-// click the settings tree is exactly the expected one, and at the end nothing else in the whole
-// registry has changed but what the panel is there to change.
+// click the settings tree is exactly the expected one, and at the end nothing else in the
+// registry, its classes apart, has changed but what the panel is there to change.
 #include <stdexcept>
 
 #include "support/FirstRun.h"
@@ -17,6 +17,7 @@ constexpr const char* BrowserMain = "Software\\Microsoft\\Internet Explorer\\Mai
 constexpr const char* SoftwareKey = "SOFTWARE";
 
 constexpr std::uint32_t Untouched = 3;  // what a service's start has until the program writes it
+constexpr LRESULT DialUpIndex = 1;      // in the list of connections
 
 // A user's own choices, most of them not the designed ones.
 Tree StoredTree() {
@@ -166,20 +167,29 @@ class PanelsTest : public ProgramTest {
   }
 
  private:
+  // The system lists its sound devices when the first sound is played, and notes under its own key
+  // what it has looked up, whoever asked.
+  static Tree WithoutTheSystemsOwn(Tree tree) {
+    std::erase_if(tree, [](const auto& row) {
+      return row.first.starts_with("microsoft\\windows\\currentversion\\mmdevices\\") ||
+             row.first.starts_with("software\\wine\\");
+    });
+    return tree;
+  }
+  // The thousands of classes take seconds to read, and there is none that a panel would change.
+  static Tree MachineNow() {
+    return WithoutTheSystemsOwn(ReadTree(HKEY_LOCAL_MACHINE, SoftwareKey, "classes"));
+  }
+  static World WorldOf(const Tree& machine) {
+    return {WithoutTheSystemsOwn(ReadTree(HKEY_CURRENT_USER, "")), machine,
+            ReadTree(HKEY_LOCAL_MACHINE, MessengerKey)};
+  }
   // The machine's part is large and read once: every test must find it as the first did.
   static World Before() {
-    static const Tree machine = ReadTree(HKEY_LOCAL_MACHINE, SoftwareKey);
-    return {ReadTree(HKEY_CURRENT_USER, ""), machine, ReadTree(HKEY_LOCAL_MACHINE, MessengerKey)};
+    static const Tree machine = MachineNow();
+    return WorldOf(machine);
   }
-  static World Now() {
-    World world{ReadTree(HKEY_CURRENT_USER, ""), ReadTree(HKEY_LOCAL_MACHINE, SoftwareKey),
-                ReadTree(HKEY_LOCAL_MACHINE, MessengerKey)};
-    // The system lists its sound devices there when the first sound is played.
-    std::erase_if(world.machine, [](const auto& row) {
-      return row.first.starts_with("microsoft\\windows\\currentversion\\mmdevices\\");
-    });
-    return world;
-  }
+  static World Now() { return WorldOf(MachineNow()); }
   static std::string Prefix() { return Lower(RootKey) + "\\"; }
   void ExpectMachine(const std::string& name, const StoredValue& value) {
     expected_.machine[Lower(name)] = value;
@@ -332,6 +342,29 @@ TEST_F(BlockPreferencesTest, ATypedPresetCountsOnlyLetterForLetter) {
   CheckWorld();
 }
 
+// By key, with the list closed and dropped: each letter goes behind the one before.
+TEST_F(BlockPreferencesTest, APresetTypedByKeyCounts) {
+  Start();
+  HWND combo = Program().Find(Box("cmbinternet"));
+  HWND field = FindWindowExA(combo, nullptr, "Edit", nullptr);
+  ASSERT_NE(field, nullptr);
+  for (const bool dropped : {false, true}) {
+    Program().SetText(Box("cmbinternet"), "");
+    SendMessageA(combo, CB_SHOWDROPDOWN, dropped ? TRUE : FALSE, 0);
+    for (const char letter : std::string("Dial Up")) {
+      PostMessageA(field, WM_CHAR, static_cast<WPARAM>(letter), 1);
+    }
+    EXPECT_TRUE(Program().WaitForText(Box("cmbinternet"), "Dial Up"))
+        << dropped << ": " << Program().TextOf(Box("cmbinternet"));
+    SendMessageA(combo, CB_SHOWDROPDOWN, FALSE, 0);
+    // The list knows it as well, so that an arrow key goes on from there.
+    EXPECT_TRUE(WaitFor([&] { return SendMessageA(combo, CB_GETCURSEL, 0, 0) == DialUpIndex; }));
+    ExpectFive(1, 1, 1, 0, 0);
+    ASSERT_TRUE(Program().Answers());
+    Check("Dial Up by key");
+  }
+}
+
 TEST_F(BlockPreferencesTest, FromAStoredStoreTheSystemIsChangedAtStartAndTheBoxesGoOn) {
   Start(StoredTree());
   ExpectAll(0);
@@ -402,6 +435,28 @@ TEST_F(GeneralSettingsTest, TheScriptBoxWritesTheBrowsersOwnValue) {
   ExpectDebugger("yes");
   Click(Box("chkScript"));
   CheckWorld();
+}
+
+// Only where the save fails: with the box ticked the entry is written, with it cleared deleted.
+TEST_F(GeneralSettingsTest, AFailedSaveTellsSoAndThenMovesTheStartWithWindows) {
+  constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+  Start();
+  Write(HKEY_CURRENT_USER, Settings, "BpID", Text(""));
+  for (const bool ticked : {true, false}) {
+    Program().ClickAndLeave(Box("chkGSWindows"));
+    const auto box = Program().WaitForBox();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text, "Error occured: Invalid procedure call or argument");
+    EXPECT_FALSE(Read(HKEY_LOCAL_MACHINE, RunKey, "Vantrel") && ticked) << "before the answer";
+    ASSERT_TRUE(Program().Answer(*box));
+    ASSERT_TRUE(Program().Answers());
+    const auto entry = Read(HKEY_LOCAL_MACHINE, RunKey, "Vantrel");
+    ASSERT_EQ(entry.has_value(), ticked);
+    // With its terminator.
+    if (entry) {
+      EXPECT_EQ(*entry, Text(ProgramFolder() + std::string("\\Vantrel.exe\0", 13)));
+    }
+  }
 }
 
 TEST_F(GeneralSettingsTest, ResetSetsOnlyWhatDiffers) {

@@ -98,6 +98,27 @@ TEST_F(TrayTest, EveryWayOutTakesTheIconAway) {
       },
       [](const Running& program) { program.PressCloseBox(); },
       [](const Running& program) { PostMessageA(program.Find("frmMain"), WM_ENDSESSION, TRUE, 0); },
+      [](const Running& program) {
+        HideMain(program);
+        PostMessageA(program.Find("frmMain"), WM_ENDSESSION, TRUE, 0);
+      },
+      // From another program.
+      [](const Running& program) { PostMessageA(program.Find("frmMain"), WM_QUIT, 0, 0); },
+      [](const Running& program) {
+        program.ClickAndLeave("FrmFrameSettings.chkGShowToolbar");
+        ASSERT_TRUE(program.WaitForBox());
+        program.ChooseMenu("MnuExit");
+      },
+      [](const Running& program) {
+        program.ChooseMenu("submnuAbout");
+        ASSERT_TRUE(program.WaitUntilVisible("FrmAbout"));
+        program.ChooseMenu("MnuExit");
+      },
+      [](const Running& program) {
+        program.ChooseMenu("submnuAbout");
+        ASSERT_TRUE(program.WaitUntilVisible("FrmAbout"));
+        PostMessageA(program.Find("frmMain"), WM_QUIT, 0, 0);
+      },
   };
   for (const auto& leave : ways) {
     tray.Forget();

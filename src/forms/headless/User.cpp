@@ -137,11 +137,13 @@ bool User::Enter() {
 }
 
 bool User::Escape() {
-  const Form* window = ActiveWindow();
+  Form* window = ActiveWindow();
   if (window == nullptr) return false;
   CommandButton* button =
       FindButton(*window, [](const CommandButton& each) { return each.IsCancel(); });
-  return button != nullptr && Click(*button);
+  if (button != nullptr) return Click(*button);
+  // A dialog without such a button closes as by its close box.
+  return window->Designed().Frame == Border::Dialog && Close(*window);
 }
 
 bool User::Close(Form& form) {

@@ -257,7 +257,8 @@ bool Window::Takes(const memory::Message& message) {
       toolkit_.AtBorder([&] { form.SetCaption(*message.text); });
       return true;
     case WmClose:
-      toolkit_.UserCloses(form);
+      // A panel has no close box: only a foreign program can ask it.
+      if (form.Designed().Frame != Border::Panel) toolkit_.UserCloses(form);
       return true;
     case WmMouseMove:
       MouseMoved(message);

@@ -59,7 +59,7 @@ COLORREF Screen(Color color) {
 }  // namespace
 
 double ContrastBetween(COLORREF one, COLORREF other) {
-  const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
+  const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -37,12 +37,17 @@ void ComboBoxWindow::Fit() {
 }
 
 void ComboBoxWindow::ShowSelection() {
+  const bool editable = box_.Style() == ComboStyle::Editable;
+  const bool typed = editable && ShownText() == box_.Text();
+  const auto marked = static_cast<LPARAM>(SendMessageA(Handle(), CB_GETEDITSEL, 0, 0));
   if (SendMessageA(Handle(), CB_GETCURSEL, 0, 0) != box_.ListIndex()) {
     Tell(CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()));
   }
-  if (Alive() && box_.Style() == ComboStyle::Editable && ShownText() != box_.Text()) {
+  if (Alive() && editable && ShownText() != box_.Text()) {
     Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(box_.Text().c_str()));
   }
+  // A selection moves the caret to the front; to what the user is typing it comes back.
+  if (Alive() && typed) Tell(CB_SETEDITSEL, 0, marked);
 }
 
 void ComboBoxWindow::Changed(Aspect aspect) {

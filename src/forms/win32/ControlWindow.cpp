@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/win32/FormWindow.h"
 #include "forms/win32/Painting.h"
+#include "forms/win32/SpokenObject.h"
 
 namespace vantrel::forms::win32 {
 namespace {
@@ -198,11 +199,21 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
         control_.AssignWindowText(text);
       });
       return TRUE;
+    case WM_CLOSE:
+      // From a foreign program: nothing that a control could close by itself.
+      return 0;
     case WM_SETCURSOR:
       if (LOWORD(second) == HTCLIENT && System().ShowPointer(Pointer())) return TRUE;
       break;
     case WM_SETFOCUS:
       if (control_.IsTabStop()) TakesFocusFromModel();
+      break;
+    case WM_GETOBJECT:
+      // The object's number has 32 bits, whatever the width of the parameter.
+      if (static_cast<LONG>(second) == OBJID_CLIENT && IsSpokenByName()) {
+        const auto self = std::static_pointer_cast<ControlWindow>(shared_from_this());
+        if (const LRESULT answer = AnswerSpokenObject(self, first); answer != 0) return answer;
+      }
       break;
     default:
       if (message == WM_MOUSEMOVE && !tipped_) ShowTip();

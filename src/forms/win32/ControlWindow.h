@@ -38,6 +38,8 @@ class ControlWindow : public Window {
   // The pointer shown over it, in the models' numbers.
   virtual int Pointer() const { return control_.MousePointer(); }
   virtual const std::string& TipText() const { return control_.ToolTipText(); }
+  // Whether a screen reader is given a name of the house's rather than the window's text.
+  virtual bool IsSpokenByName() const { return control_.IsTabStop(); }
   // Whose mouse events are raised here.
   virtual Control& MouseTarget() const { return control_; }
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;

@@ -9,6 +9,7 @@
 #include "forms/win32/FormLayout.h"
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Painting.h"
+#include "forms/win32/SystemRoutine.h"
 #include "forms/win32/TimerWindow.h"
 #include "forms/win32/WindowMaker.h"
 
@@ -45,6 +46,16 @@ class Peer final : public FormPeer {
  private:
   std::shared_ptr<FormWindow> window_;
 };
+
+// A program with higher rights than the shell hears from it only what it lets in.
+void LetIn(HWND window, UINT message) {
+  constexpr DWORD Allow = 1;
+  auto* const change = SystemRoutine<BOOL WINAPI(HWND, UINT, DWORD, void*)>(
+      "user32.dll", "ChangeWindowMessageFilterEx");
+  if (change != nullptr) change(window, message, Allow, nullptr);
+}
+
+bool IsVisibleItself(HWND window) { return (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0; }
 
 // Only top-level windows are told of a new scheme by Windows; common controls want to know.
 BOOL CALLBACK PassSchemeOn(HWND child, LPARAM) {
@@ -104,6 +115,7 @@ WindowShape FormWindow::Shape() const {
 void FormWindow::CreateHidden() {
   Create(Shape(), form_.Name());
   tips_.SetOwner(Handle());
+  if (IsMain()) LetIn(Handle(), System().TaskbarCreatedMessage);
   AwaitControls();
 }
 
@@ -173,6 +185,8 @@ void FormWindow::ShowVisible() {
   MakeControls();
   if (!std::exchange(placed_, true)) Center();
   ShowWindow(Handle(), ShowCommand());
+  // A process that was started hidden has its first window hidden, whatever it asks for.
+  if (form_.Visible() && !IsVisibleItself(Handle())) ShowWindow(Handle(), ShowCommand());
   PaintAtOnce();
 }
 
@@ -256,7 +270,8 @@ void FormWindow::Close() {
 
 // Before the dialog goes, since Windows would else activate another program's window.
 void FormWindow::EndModal() {
-  modal_ = false;
+  // The loop that waits for it looks again.
+  if (std::exchange(modal_, false) && Alive()) PostMessageA(Handle(), WM_NULL, 0, 0);
   for (const HWND window : std::exchange(disabled_, {})) EnableWindow(window, TRUE);
 }
 
@@ -315,6 +330,8 @@ void FormWindow::SchemeChanged(UINT message) {
 LRESULT FormWindow::Closing(UINT message, WPARAM first) {
   if (message == WM_QUERYENDSESSION) return TRUE;
   if (message == WM_CLOSE) {
+    // A panel has no close box: only a foreign program can ask it.
+    if (IsPanel()) return 0;
     System().Raise([this] { form_.Unload(UnloadByCloseBox); });
   } else if (first != 0 && IsMain()) {
     System().Raise([this] { form_.Unload(UnloadBySystem); });
@@ -339,7 +356,8 @@ bool FormWindow::IsEvent(UINT message, WPARAM first, LPARAM second) {
       Resized(first);
       return true;
     case WM_MOUSEMOVE: {
-      const MouseState mouse = MouseStateOf(first, second, System().TwipsPerPixelX());
+      const double unit = form_.ScaleMode() == ScaleMode::Pixels ? 1 : System().TwipsPerPixelX();
+      const MouseState mouse = MouseStateOf(first, second, unit);
       System().Raise([&] { form_.MouseMove(mouse.Button, mouse.Shift, mouse.X, mouse.Y); });
       return true;
     }
@@ -349,6 +367,28 @@ bool FormWindow::IsEvent(UINT message, WPARAM first, LPARAM second) {
     default:
       return false;
   }
+}
+
+// Windows itself hides a dialog with its minimised owner, and shows it again with it.
+bool FormWindow::GoesWithOwner() const {
+  const HWND owner = GetWindow(Handle(), GW_OWNER);
+  return owner != nullptr && IsIconic(owner);
+}
+
+// A dialog that nobody sees must not keep the others from being used, and they are to be ready when
+// Windows looks for the next window.
+void FormWindow::AboutToMove(const WINDOWPOS& change) {
+  const bool hides = (change.flags & SWP_HIDEWINDOW) != 0;
+  if (hides && form_.Visible() && !GoesWithOwner()) EndModal();
+}
+
+// What another program has done to the window is so for the model as well.
+void FormWindow::Moved(const WINDOWPOS& change) {
+  if ((change.flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) == 0) return;
+  const bool visible = IsVisibleItself(Handle());
+  if (visible == form_.Visible() || (!visible && GoesWithOwner())) return;
+  if (visible && !std::exchange(placed_, true)) Center();
+  System().Raise([&] { form_.UserShows(visible); });
 }
 
 // What moves the focus within the window, or from it and to it.
@@ -399,6 +439,20 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_SETTINGCHANGE:
       SchemeChanged(message);
       break;
+    case WM_WINDOWPOSCHANGING:
+      if (second != 0) AboutToMove(*reinterpret_cast<const WINDOWPOS*>(second));
+      break;
+    case WM_WINDOWPOSCHANGED: {
+      const LRESULT answer = Window::OnMessage(message, first, second);
+      if (Alive() && second != 0) Moved(*reinterpret_cast<const WINDOWPOS*>(second));
+      return answer;
+    }
+    case WM_SETTEXT: {
+      const LRESULT answer = Window::OnMessage(message, first, second);
+      const auto* text = reinterpret_cast<const char*>(second);
+      if (Alive()) System().Raise([&] { form_.SetCaption(text != nullptr ? text : ""); });
+      return answer;
+    }
     default:
       break;
   }

@@ -67,6 +67,9 @@ class FormWindow : public Window {
   void SchemeChanged(UINT message);
   bool IsEvent(UINT message, WPARAM first, LPARAM second);
   bool IsFocusMove(UINT message, WPARAM first, LPARAM second);
+  bool GoesWithOwner() const;
+  void AboutToMove(const WINDOWPOS& change);
+  void Moved(const WINDOWPOS& change);
   bool IsCovered(const Control& control, const FormWindow& panel) const;
   LRESULT Closing(UINT message, WPARAM first);
 

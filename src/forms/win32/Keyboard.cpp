@@ -42,6 +42,15 @@ void MoveTo(const KeyPlace& place, Control* to) {
   if (dynamic_cast<TextBox*>(to) != nullptr) SendMessageA(HandleOf(*to), EM_SETSEL, 0, -1);
 }
 
+// The form's button of the kind, whether or not it can be pressed now.
+const CommandButton* ButtonWhich(const Form& form, bool (CommandButton::*is)() const) {
+  for (const Control* control : form.Controls()) {
+    const auto* button = dynamic_cast<const CommandButton*>(control);
+    if (button != nullptr && (button->*is)()) return button;
+  }
+  return nullptr;
+}
+
 template <class Kind>
 Kind* FindButton(const FormWindow& root, bool (Kind::*is)() const) {
   std::vector<const Form*> forms{&root.Model()};
@@ -89,7 +98,14 @@ bool EnterKey(const KeyPlace& place) {
 
 bool EscapeKey(const KeyPlace& place) {
   if (IsDropped(place.Focused)) return false;
-  return Press(place, FindButton<CommandButton>(place.Root, &CommandButton::IsCancel));
+  if (Press(place, FindButton<CommandButton>(place.Root, &CommandButton::IsCancel))) return true;
+  // A dialog without such a button closes as by its close box.
+  const Form& form = place.Root.Model();
+  if (form.Designed().Frame != Border::Dialog ||
+      ButtonWhich(form, &CommandButton::IsCancel) != nullptr)
+    return false;
+  PostMessageA(place.Root.Handle(), WM_CLOSE, 0, 0);
+  return true;
 }
 
 // Arrows go round the options of a group, and choose.
@@ -179,11 +195,7 @@ char AccessKeyOf(const std::string& caption) {
 }
 
 const Control* DefaultButton(const Form& form) {
-  for (const Control* control : form.Controls()) {
-    const auto* button = dynamic_cast<const CommandButton*>(control);
-    if (button != nullptr && button->IsDefault()) return button;
-  }
-  return nullptr;
+  return ButtonWhich(form, &CommandButton::IsDefault);
 }
 
 LRESULT DefaultButtonAnswer(const Form& form) {

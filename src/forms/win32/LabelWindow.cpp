@@ -46,12 +46,12 @@ bool IsBar(const LookStyle& style) { return style.From != style.To; }
 
 }  // namespace
 
-void FitToText(Label& label, HFONT font, const Scale& scale) {
+void FitToText(Label& label, HFONT font, const Scale& scale, int border) {
   if (!label.AutoSize()) return;
   const SIZE size = MeasureText(label.Caption(), font, 0, DT_EXPANDTABS);
   Place place = label.At();
-  place.Width = scale.Twips(size.cx);
-  place.Height = scale.Twips(size.cy);
+  place.Width = scale.Twips(size.cx + 2 * border);
+  place.Height = scale.Twips(size.cy + 2 * border);
   label.Move(place);
 }
 
@@ -68,7 +68,8 @@ HFONT LabelWindow::TextFont() const {
     font.Size = style.Points;
     font.Bold = style.Bold;
   }
-  font.Underline = font.Underline || IsLit();
+  // A scheme's text colour alone does not tell a link.
+  font.Underline = font.Underline || IsLit() || (IsLink() && System().Palette.Contrast());
   return System().Typefaces.Of(font);
 }
 

@@ -8,8 +8,8 @@
 
 namespace vantrel::forms::win32 {
 
-// Gives a label that takes the size of its text that size.
-void FitToText(Label& label, HFONT font, const Scale& scale);
+// Gives a label that takes the size of its text that size, with so many pixels of border around.
+void FitToText(Label& label, HFONT font, const Scale& scale, int border = 0);
 
 class LabelWindow : public ControlWindow {
  public:

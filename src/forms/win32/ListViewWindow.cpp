@@ -11,6 +11,7 @@ namespace {
 constexpr UINT ShowGathered = WM_APP + 1;
 constexpr std::size_t MostRowsKept = 1000;
 constexpr unsigned StateShift = 12;
+constexpr int HeaderMargin = 6;  // pixels at 96 dots per inch
 
 int ColumnFormat(Align alignment) {
   switch (alignment) {
@@ -88,6 +89,29 @@ void ListViewWindow::ShowColors() {
   Tell(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(colors.Of(ground)));
   Tell(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.TextOn(list_.ForeColor(), ground)));
   Invalidate();
+}
+
+// A theme paints the header's ground in its own colour, on which the text of a scheme in other
+// colours cannot be read: there the header is drawn here, in the scheme's.
+LRESULT ListViewWindow::DrawHeader(const NMCUSTOMDRAW& draw) const {
+  if (draw.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  const auto column = static_cast<std::size_t>(draw.dwItemSpec);
+  if (draw.dwDrawStage != CDDS_ITEMPREPAINT || column >= list_.Columns().size()) {
+    return CDRF_DODEFAULT;
+  }
+  const Colors& colors = System().Palette;
+  const RECT& area = draw.rc;
+  FillArea(draw.hdc, area, colors.Of(palette::ButtonFace));
+  const COLORREF ink = colors.TextOn(palette::ButtonText, palette::ButtonFace);
+  DrawLine(draw.hdc, {area.left, area.bottom - 1}, {area.right, area.bottom - 1}, ink);
+  DrawLine(draw.hdc, {area.right - 1, area.top}, {area.right - 1, area.bottom}, ink);
+  const Column& model = list_.Columns()[column];
+  const int margin = System().Pixels.Grown(HeaderMargin);
+  const RECT text{area.left + margin, area.top, area.right - margin, area.bottom};
+  DrawTextIn(
+      draw.hdc, model.Header, text, TextFont(), ink,
+      DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | AlignFlags(model.Alignment));
+  return CDRF_SKIPDEFAULT;
 }
 
 void ListViewWindow::Changed(Aspect aspect) {
@@ -277,6 +301,14 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_CHAR:
       if (first == VK_SPACE && list_.CheckBoxes()) return 0;
       break;
+    case WM_NOTIFY: {
+      const auto* header = reinterpret_cast<const NMHDR*>(second);
+      if (header != nullptr && header->code == NM_CUSTOMDRAW && System().Palette.Contrast() &&
+          header->hwndFrom == reinterpret_cast<HWND>(Tell(LVM_GETHEADER))) {
+        return DrawHeader(reinterpret_cast<const NMCUSTOMDRAW&>(*header));
+      }
+      break;
+    }
     case WM_SYSCOLORCHANGE: {
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
       if (Alive()) ShowColors();

@@ -42,6 +42,7 @@ class ListViewWindow final : public ControlWindow {
   void SelectionMoved(const NMLISTVIEW& change);
   void Clicked(const NMITEMACTIVATE& click);
   LRESULT Draw(NMLVCUSTOMDRAW& draw) const;
+  LRESULT DrawHeader(const NMCUSTOMDRAW& draw) const;
   bool AssignState(int row, const LVITEMA& item);
   void Toggle(int row);
   using ControlWindow::Tell;

@@ -14,6 +14,7 @@ class ProgressWindow final : public ControlWindow {
 
  protected:
   WindowShape Shape() const override;
+  bool IsSpokenByName() const override { return true; }
   void Prepare() override { Changed(Aspect::Value); }
 
  private:

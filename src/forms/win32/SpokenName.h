@@ -1,17 +1,25 @@
-// The name by which a screen reader knows a control that has no caption: the label before it, or
-// a text that is there to be read and takes no room on the screen.
+// What a screen reader says of a control: the name by which it is told from every other of its
+// window, and a description where there is more to say.
 #ifndef VANTREL_FORMS_WIN32_SPOKENNAME_H_
 #define VANTREL_FORMS_WIN32_SPOKENNAME_H_
 
-#include <windows.h>
+#include <string>
 
 #include "forms/Control.h"
 
 namespace vantrel::forms::win32 {
 
-// Makes the text in front of the control's window, which is to be made next, unless a label of
-// the same container was made just before.
-void MakeSpokenName(const Control& control, HWND parent);
+// The caption; of a link whose tool tip goes on where its caption ends ("Help", "Help on playing a
+// sound") the tool tip; of a control without a caption the label before it, else its tool tip, else
+// the caption around it. Where another control of the window is called the same, with the caption
+// around it behind ("Delete, Remove unwanted cookies"). Without the marks of access keys.
+std::string SpokenName(Control& control);
+
+// The tool tip, if it says more than the name.
+std::string SpokenDescription(Control& control);
+
+// Whether it acts as a link, however it is built.
+bool IsSpokenLink(Control& control);
 
 }  // namespace vantrel::forms::win32
 

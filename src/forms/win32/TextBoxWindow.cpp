@@ -24,7 +24,8 @@ WindowShape TextBoxWindow::Shape() const {
   shape.ClassName = "EDIT";
   shape.Text = box_.Text();
   shape.Style = WS_BORDER | AlignStyle(box_.Alignment());
-  shape.Style |= box_.MultiLine() ? ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
+  if (box_.MultiLine()) shape.Style |= ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
+  if (!box_.MultiLine() || !box_.WordWrap()) shape.Style |= ES_AUTOHSCROLL;
   if (box_.ReadOnly()) shape.Style |= ES_READONLY;
   return shape;
 }

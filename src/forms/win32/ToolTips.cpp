@@ -16,16 +16,18 @@ ToolTips::~ToolTips() {
 }
 
 void ToolTips::MakeWindow() {
-  if (tips_ != nullptr) return;
+  if (tips_ != nullptr && IsWindow(tips_)) return;
+  // A foreign program may have closed it: the new one knows no control yet.
+  controls_.clear();
   tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0,
                           0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
   SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, Scale::OfScreen().Grown(WidestTip));
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {
-  const bool known = controls_.count(control) != 0;
-  if (!known && text.empty()) return;
+  if (text.empty() && controls_.count(control) == 0) return;
   MakeWindow();
+  const bool known = controls_.count(control) != 0;
   TTTOOLINFOA tool{};
   // The first form, which every version of the common controls takes.
   tool.cbSize = TTTOOLINFOA_V1_SIZE;

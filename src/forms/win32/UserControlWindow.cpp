@@ -7,6 +7,13 @@
 namespace vantrel::forms::win32 {
 namespace {
 
+constexpr int LineWidth = 1;  // pixels
+
+int BorderOf(const Control& face) {
+  const auto* label = dynamic_cast<const Label*>(&face);
+  return label != nullptr && label->BorderStyle() == SingleLine ? LineWidth : 0;
+}
+
 class FacePeer final : public ControlPeer {
  public:
   FacePeer(WindowSystem& system, Label& face) : system_(system), face_(face) {}
@@ -37,7 +44,7 @@ bool IsFace(const Label& label) {
 
 std::unique_ptr<ControlPeer> MakeFacePeer(WindowSystem& system, Label& face) {
   auto peer = std::make_unique<FacePeer>(system, face);
-  FitToText(face, system.Typefaces.Of(face.TextFont()), system.Pixels);
+  FitToText(face, system.Typefaces.Of(face.TextFont()), system.Pixels, BorderOf(face));
   // Its surface may want to follow.
   dynamic_cast<UserControl&>(*face.Container()).Resized();
   return peer;
@@ -58,7 +65,7 @@ int UserControlWindow::Pointer() const { return Face().MousePointer(); }
 
 const std::string& UserControlWindow::TipText() const {
   const std::string& text = Face().ToolTipText();
-  return text.empty() ? surface_.ToolTipText() : text;
+  return text.empty() && !surface_.FaceHasTip() ? surface_.ToolTipText() : text;
 }
 
 void UserControlWindow::Changed(Aspect aspect) {
@@ -74,7 +81,7 @@ void UserControlWindow::FaceChanged(Label& face, Aspect aspect) {
     ControlWindow::Changed(aspect);
   }
   Invalidate();
-  if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels);
+  if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels, BorderOf(face));
 }
 
 void UserControlWindow::PaintSurface(HDC context, const RECT& area) {
@@ -86,11 +93,24 @@ void UserControlWindow::PaintSurface(HDC context, const RECT& area) {
   } else {
     PaintBehind(context);
   }
-  DrawTextIn(context, face.WindowText(), area, TextFont(),
-             face.Enabled() && surface_.Enabled() ? colors.TextOn(face.ForeColor(), ground)
-                                                  : colors.TextOn(palette::GrayText, ground),
+  const bool enabled = face.Enabled() && surface_.Enabled();
+  const COLORREF color = colors.TextOn(enabled ? face.ForeColor() : palette::GrayText, ground);
+  const RECT inside = PaintBorder(context, area);
+  DrawTextIn(context, face.WindowText(), inside, TextFont(), color,
              DT_SINGLELINE | DT_EXPANDTABS | AlignFlags(face.Alignment()));
-  if (GetFocus() == Handle()) DrawFocusRect(context, &area);
+  if (GetFocus() == Handle()) DrawFocusRect(context, &inside);
+}
+
+// The area that the border leaves.
+RECT UserControlWindow::PaintBorder(HDC context, const RECT& area) const {
+  const int border = BorderOf(Face());
+  if (border == 0) return area;
+  const Brush line(
+      CreateSolidBrush(System().Palette.TextOn(palette::WindowText, Face().BackColor())));
+  FrameRect(context, &area, line.Get());
+  RECT inside = area;
+  InflateRect(&inside, -border, -border);
+  return inside;
 }
 
 void UserControlWindow::Press(bool down, LPARAM position) {
@@ -116,6 +136,11 @@ LRESULT UserControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) 
       if (Alive()) Press(message != WM_LBUTTONUP, second);
       return answer;
     }
+    case WM_MOUSEMOVE:
+      // While a button is held the mouse is told here wherever it is. Outside it is not over the
+      // face: taken for that, it would begin a hover that the next look at the mouse ends again.
+      if (!HasMouse(second)) return Window::OnMessage(message, first, second);
+      break;
     case WM_KEYDOWN:
       if (first == VK_SPACE || first == VK_RETURN) {
         Raise([this] { surface_.KeyPressed(); });

@@ -34,6 +34,7 @@ class UserControlWindow : public ControlWindow {
  private:
   Control& Face() const;
   void Press(bool down, LPARAM position);
+  RECT PaintBorder(HDC context, const RECT& area) const;
 
   UserControl& surface_;
   bool pressed_ = false;

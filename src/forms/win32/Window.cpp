@@ -1,5 +1,7 @@
 #include "forms/win32/Window.h"
 
+#include <utility>
+
 #include "forms/win32/Painting.h"
 
 namespace vantrel::forms::win32 {
@@ -35,7 +37,10 @@ void Window::Create(const WindowShape& shape, const std::string& name) {
                       shape.Area.right - shape.Area.left, shape.Area.bottom - shape.Area.top,
                       shape.Parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(shape.Identifier)),
                       GetModuleHandleA(nullptr), isOwn ? this : nullptr);
-  if (window == nullptr) return;
+  if (window == nullptr) {
+    if (Alive()) Forget(handle_);
+    return;
+  }
   if (!isOwn) {
     original_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Receive)));
@@ -64,7 +69,9 @@ void Window::Destroy() {
   if (!Alive()) return;
   const HWND window = handle_;
   Forget(window);
+  const bool nested = std::exchange(system_.Destroying, true);
   DestroyWindow(window);
+  system_.Destroying = nested;
 }
 
 LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -75,6 +82,9 @@ LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM
     }
   }
   Window* object = ObjectOf(window);
+  // Windows end only by the toolkit's hand: a foreign program's word for it is not taken.
+  const bool isEnd = message == WM_DESTROY || message == WM_NCDESTROY;
+  if (object != nullptr && isEnd && !object->system_.Destroying) return 0;
   if (object != nullptr && message != WM_NCDESTROY) {
     const std::shared_ptr<Window> kept = object->shared_from_this();
     return kept->OnMessage(message, first, second);

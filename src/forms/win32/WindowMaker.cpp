@@ -13,7 +13,6 @@
 #include "forms/win32/LabelWindow.h"
 #include "forms/win32/ListViewWindow.h"
 #include "forms/win32/ProgressWindow.h"
-#include "forms/win32/SpokenName.h"
 #include "forms/win32/StatusBarWindow.h"
 #include "forms/win32/TextBoxWindow.h"
 #include "forms/win32/ToolbarWindow.h"
@@ -29,9 +28,9 @@ class Maker final : public ControlVisitor {
 
   void Visit(Chart& control) override { Make<ChartWindow>(control); }
   void Visit(CheckBox& control) override { Make<CheckBoxWindow>(control); }
-  void Visit(ComboBox& control) override { MakeNamed<ComboBoxWindow>(control); }
+  void Visit(ComboBox& control) override { Make<ComboBoxWindow>(control); }
   void Visit(CommandButton& control) override { Make<CommandButtonWindow>(control); }
-  void Visit(FileListBox& control) override { MakeNamed<FileListWindow>(control); }
+  void Visit(FileListBox& control) override { Make<FileListWindow>(control); }
   void Visit(Frame& control) override { Make<FrameWindow>(control); }
   void Visit(Image& control) override { Make<ImageWindow>(control); }
   void Visit(Label& control) override {
@@ -41,12 +40,12 @@ class Maker final : public ControlVisitor {
       Make<LabelWindow>(control);
     }
   }
-  void Visit(ListView& control) override { MakeNamed<ListViewWindow>(control); }
+  void Visit(ListView& control) override { Make<ListViewWindow>(control); }
   void Visit(OptionButton& control) override { Make<OptionButtonWindow>(control); }
   void Visit(PictureBox& control) override { Make<PictureBoxWindow>(control); }
-  void Visit(ProgressBar& control) override { MakeNamed<ProgressWindow>(control); }
+  void Visit(ProgressBar& control) override { Make<ProgressWindow>(control); }
   void Visit(StatusBar& control) override { Make<StatusBarWindow>(control); }
-  void Visit(TextBox& control) override { MakeNamed<TextBoxWindow>(control); }
+  void Visit(TextBox& control) override { Make<TextBoxWindow>(control); }
   // Has no window.
   void Visit(Timer&) override {}
   void Visit(Toolbar& control) override { Make<ToolbarWindow>(control); }
@@ -59,13 +58,6 @@ class Maker final : public ControlVisitor {
     window->CreateUnder(parent_, identifier_);
     control.AttachPeer(MakePeer(window));
     window->Settle();
-  }
-
-  // One that has no text of its own to be known by.
-  template <class Kind, class Model>
-  void MakeNamed(Model& control) {
-    MakeSpokenName(control, parent_);
-    Make<Kind>(control);
   }
 
   WindowSystem& system_;

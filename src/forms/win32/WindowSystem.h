@@ -55,6 +55,7 @@ class WindowSystem final : public Win32Toolkit {
   Fonts Typefaces;
   ImageStrips Images;
   std::unique_ptr<PaintSheet> Sheet;  // of the paint that is to come
+  bool Destroying = false;            // a window, and with it those below, by the toolkit itself
   const UINT TaskbarCreatedMessage;
 
  protected:

@@ -32,9 +32,9 @@ class ShellAdapter : public Shell {
   std::intptr_t ShellExecuteA(WindowHandle owner, const std::string& verb, const std::string& file,
                               const std::string& parameters, const std::string& directory,
                               int showCommand) override {
-    return reinterpret_cast<std::intptr_t>(
-        ::ShellExecuteA(reinterpret_cast<HWND>(owner), verb.c_str(), file.c_str(),
-                        parameters.c_str(), directory.c_str(), showCommand));
+    return reinterpret_cast<std::intptr_t>(::ShellExecuteA(
+        reinterpret_cast<HWND>(owner), verb.c_str(), file.c_str(), parameters.c_str(),
+        directory.empty() ? nullptr : directory.c_str(), showCommand));
   }
 };
 

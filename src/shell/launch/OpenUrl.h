@@ -10,12 +10,16 @@
 
 namespace vantrel::launch {
 
-// The browser's program path in quotes; the empty text if its command is missing or not quoted.
+// The browser's program path in quotes, as its command has it: the command up to the first quote
+// behind its first character. The empty text if there is no such quote or no command. An unquoted
+// command with a quoted parameter gives a piece: what stands before the parameter, and its opening
+// quote.
 std::string GetDefaultBrowser(program::Program& program);
 
 // Opens the target: a text that starts with "http" as it is, any other put in quotes, which the
-// caller's text shows afterwards. A target shorter than 5 characters gets the message box. Raises
-// file not found (53) or permission denied (70) if the browser cannot be started.
+// caller's text shows afterwards. A target shorter than 5 characters gets the message box. If the
+// browser cannot be started, raises permission denied (70), path not found (76), or file not found
+// (53) for every other reason.
 void OpenUrl(program::Program& program, std::string& target);
 
 // The same for a target of the tables.

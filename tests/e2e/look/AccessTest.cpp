@@ -54,20 +54,35 @@ class AccessTest : public LookFixture {
                                                type == static_cast<LONG>(BS_AUTORADIOBUTTON));
   }
 
-  // What Tab has to reach: of the main window and the panel, of a group its chosen option.
-  std::set<std::string> Reachable(const std::string& panel) const {
+  // What Tab has to reach of a window, of a group its chosen option.
+  std::set<std::string> ReachableOf(const std::string& form) const {
     std::set<std::string> names;
-    for (const char* form : {"frmMain", panel.c_str()}) {
-      for (const Seen& control : ControlsOf(form)) {
-        const LONG style = GetWindowLongA(control.Window, GWL_STYLE);
-        if ((style & WS_TABSTOP) == 0 || !IsWindowEnabled(control.Window)) continue;
-        if (IsOption(control.Window) && SendMessageA(control.Window, BM_GETCHECK, 0, 0) == 0) {
-          continue;
-        }
-        names.insert(control.Name);
+    for (const Seen& control : ControlsOf(form)) {
+      const LONG style = GetWindowLongA(control.Window, GWL_STYLE);
+      if ((style & WS_TABSTOP) == 0 || !IsWindowEnabled(control.Window)) continue;
+      if (IsOption(control.Window) && SendMessageA(control.Window, BM_GETCHECK, 0, 0) == 0) {
+        continue;
       }
+      names.insert(control.Name);
     }
     return names;
+  }
+  // Of the main window and the panel.
+  std::set<std::string> Reachable(const std::string& panel) const {
+    std::set<std::string> names = ReachableOf("frmMain");
+    names.merge(ReachableOf(panel));
+    return names;
+  }
+
+  // Brings the dialog up, and waits until it takes the keys.
+  HWND OpenDialog(const std::string& entry, const std::string& form) const {
+    HWND dialog = nullptr;
+    Shown().Choose(entry);
+    EXPECT_TRUE(WaitFor([&] {
+      dialog = Shown().Find(form);
+      return dialog != nullptr && GetForegroundWindow() == dialog;
+    })) << form;
+    return dialog;
   }
 
   // The names in the order in which the key visits them, until it comes back.
@@ -102,53 +117,113 @@ TEST_F(AccessTest, TabVisitsEveryControlOfAPanelOnceAndComesBack) {
 constexpr IID AccessibleInterface = {
     0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
-std::string AccessibleName(HWND window) {
-  IAccessible* object = nullptr;
-  if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), AccessibleInterface,
-                                 reinterpret_cast<void**>(&object)) != S_OK) {
-    return "";
+// What a screen reader in another process learns of a control.
+class Spoken {
+ public:
+  explicit Spoken(HWND window) {
+    AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), AccessibleInterface,
+                               reinterpret_cast<void**>(&object_));
+    self_.vt = VT_I4;
+    self_.lVal = CHILDID_SELF;
   }
-  VARIANT self{};
-  self.vt = VT_I4;
-  self.lVal = CHILDID_SELF;
-  BSTR name = nullptr;
-  std::string text;
-  if (object->get_accName(self, &name) == S_OK && name != nullptr) {
-    for (const wchar_t* letter = name; *letter != 0; ++letter) text += static_cast<char>(*letter);
+  Spoken(const Spoken&) = delete;
+  Spoken& operator=(const Spoken&) = delete;
+  ~Spoken() {
+    if (object_ != nullptr) object_->Release();
   }
-  SysFreeString(name);
-  object->Release();
-  return text;
-}
 
-// What a reader says of a control: its accessible name, or where that is empty, as of fields and
-// lists, the text before it. Of names that come often, the frame and the text before tell which.
-std::string SpokenName(HWND window, const std::string& before) {
-  static const std::set<std::string> common{"Help", "Delete"};
-  std::string name = AccessibleName(window);
-  if (name.empty()) name = WindowTextOf(GetWindow(window, GW_HWNDPREV));
-  if (common.count(name) == 0) return name;
-  return WindowTextOf(GetAncestor(window, GA_PARENT)) + ", " + before + ": " + name;
-}
+  std::string Name() const { return Text(&IAccessible::get_accName); }
+  std::string Description() const { return Text(&IAccessible::get_accDescription); }
+  std::string Action() const { return Text(&IAccessible::get_accDefaultAction); }
+  LONG Role() const {
+    VARIANT role{};
+    return object_ != nullptr && object_->get_accRole(self_, &role) == S_OK ? role.lVal : 0;
+  }
+  bool Do() const { return object_ != nullptr && object_->accDoDefaultAction(self_) == S_OK; }
 
-TEST_F(AccessTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
-  CoInitialize(nullptr);
-  Start();
-  for (const Screen& screen : Panels) {
-    ASSERT_TRUE(Shown().Open(screen));
+ private:
+  using Asked = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR*);
+
+  std::string Text(Asked asked) const {
+    BSTR told = nullptr;
+    std::string text;
+    if (object_ != nullptr && (object_->*asked)(self_, &told) == S_OK && told != nullptr) {
+      for (const wchar_t* letter = told; *letter != 0; ++letter) text += static_cast<char>(*letter);
+    }
+    SysFreeString(told);
+    return text;
+  }
+
+  IAccessible* object_ = nullptr;
+  VARIANT self_{};
+};
+
+class SpokenTest : public AccessTest {
+ protected:
+  void SetUp() override {
+    AccessTest::SetUp();
+    CoInitialize(nullptr);
+    Start();
+  }
+  void TearDown() override {
+    CoUninitialize();
+    AccessTest::TearDown();
+  }
+
+  void ExpectNamesOfTheirOwn(const std::string& form) const {
     std::map<std::string, std::string> named;
-    std::string before;  // the text that stands before, which tells one link "Help" from the next
-    for (const Seen& control : ControlsOf(screen.Panel)) {
-      if ((GetWindowLongA(control.Window, GWL_STYLE) & WS_TABSTOP) != 0) {
-        const std::string name = SpokenName(control.Window, before);
-        EXPECT_NE(name, "") << control.Name;
-        EXPECT_TRUE(named.emplace(name, control.Name).second)
-            << control.Name << " and " << named[name] << " are both '" << name << "'";
-      }
-      if (!control.Text.empty() && control.Text != "Help") before = control.Text;
+    for (const Seen& control : ControlsOf(form)) {
+      if ((GetWindowLongA(control.Window, GWL_STYLE) & WS_TABSTOP) == 0) continue;
+      const std::string name = Spoken(control.Window).Name();
+      EXPECT_NE(name, "") << control.Name;
+      // The mark of an access key is not spoken, an "and" is.
+      const std::size_t mark = name.find('&');
+      EXPECT_TRUE(mark == std::string::npos || name[mark + 1] == ' ') << name;
+      EXPECT_TRUE(named.emplace(name, control.Name).second)
+          << control.Name << " and " << named[name] << " are both '" << name << "'";
     }
   }
-  CoUninitialize();
+
+  void ExpectNamesOfTheDialog(const std::string& entry, const std::string& form) const {
+    OpenDialog(entry, form);
+    ExpectNamesOfTheirOwn(form);
+    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
+  }
+};
+
+TEST_F(SpokenTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
+  for (const Screen& screen : Panels) {
+    ASSERT_TRUE(Shown().Open(screen));
+    ExpectNamesOfTheirOwn("frmMain");
+    ExpectNamesOfTheirOwn(screen.Panel);
+  }
+  Shown().Choose("submnuLaunchHelp");
+  ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
+  ExpectNamesOfTheirOwn("frmMain");
+  ExpectNamesOfTheDialog("submnuAbout", "FrmAbout");
+  ExpectNamesOfTheDialog("submnuIEToolbar", "frmcustom");
+}
+
+TEST_F(SpokenTest, ALinkIsALinkToTheReader) {
+  const Spoken help(Shown().Find("FrmFrameNotification.Label51"));
+  EXPECT_EQ(help.Name(), "Help on playing a sound");
+  EXPECT_EQ(help.Description(), "");
+  EXPECT_EQ(help.Role(), ROLE_SYSTEM_LINK);
+  EXPECT_EQ(help.Action(), "Jump");
+  const Spoken test(Shown().Find("FrmFrameNotification.Label35"));
+  EXPECT_EQ(test.Name(), "Test Sound");
+  EXPECT_EQ(test.Description(), "Play the selected sound");
+  const Spoken sounds(Shown().Find("FrmFrameNotification.cmbsound"));
+  EXPECT_EQ(sounds.Name(), "The sound to be played");
+  EXPECT_NE(sounds.Role(), ROLE_SYSTEM_LINK);
+}
+
+TEST_F(SpokenTest, TheReadersActionFollowsTheLink) {
+  HWND panel = Shown().Find("FrmFrameGraph");
+  ASSERT_FALSE(IsWindowVisible(panel));
+  EXPECT_TRUE(Spoken(Shown().Find("frmMain.LnkGraph")).Do());
+  EXPECT_TRUE(WaitFor([&] { return IsWindowVisible(panel) != FALSE; }));
 }
 
 char MnemonicOf(const std::string& text) {
@@ -199,6 +274,57 @@ TEST_F(AccessTest, EnterAndEscapeCloseTheAboutDialog) {
     EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find("FrmAbout")); })) << int{key};
     ASSERT_TRUE(WaitFor([&] { return GetForegroundWindow() == Main(); }));
   }
+}
+
+TEST_F(AccessTest, EscapeClosesTheToolbarsDialogAndEnterPressesItsOk) {
+  StartInFront();
+  HWND dialog = OpenDialog("submnuIEToolbar", "frmcustom");
+  EXPECT_EQ(LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0)),
+            GetDlgCtrlID(Shown().Find("frmcustom.Command1")));
+  Key(VK_ESCAPE);
+  EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find("frmcustom")); }));
+}
+
+TEST_F(AccessTest, TabGoesRoundWithinADialog) {
+  StartInFront();
+  for (const auto& [entry, form] :
+       {std::pair{"submnuAbout", "FrmAbout"}, std::pair{"submnuIEToolbar", "frmcustom"}}) {
+    OpenDialog(entry, form);
+    const std::vector<std::string> visited = Round(0);
+    const std::set<std::string> once(visited.begin(), visited.end());
+    EXPECT_EQ(once.size(), visited.size()) << form;
+    EXPECT_EQ(once, ReachableOf(form)) << form;
+    Key(VK_ESCAPE);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
+    BringToFront(Main());
+  }
+}
+
+TEST_F(AccessTest, TabReachesTheHelpFrame) {
+  StartInFront();
+  // Away from the Welcome panel, which lies above the frame.
+  ASSERT_TRUE(Shown().Open(Panels[2]));
+  Shown().MouseClick("frmMain.LnkHelp");
+  ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
+  const std::vector<std::string> visited = Round(0);
+  for (const char* name : {"frmMain.Label29", "frmMain.Label31", "frmMain.Label32",
+                           "frmMain.Label57", "frmMain.Label30", "frmMain.Label61"}) {
+    EXPECT_EQ(std::count(visited.begin(), visited.end(), name), 1) << name;
+  }
+}
+
+TEST_F(AccessTest, ArrowsChooseAmongTheRowsOfAList) {
+  StartInFront();
+  ASSERT_TRUE(Shown().Open(Panels[9]));
+  HWND list = Shown().Find("FrmFrameLog.lstLog");
+  for (HWND at = Focused(); at != list && at != nullptr;) at = Move(VK_TAB);
+  EXPECT_EQ(SelectedRowOf(list), 0);
+  Key(VK_DOWN);
+  EXPECT_TRUE(WaitFor([&] { return SelectedRowOf(list) == 1; }));
+  Key(VK_END);
+  EXPECT_TRUE(WaitFor([&] { return SelectedRowOf(list) == 4; }));
+  Key(VK_UP);
+  EXPECT_TRUE(WaitFor([&] { return SelectedRowOf(list) == 3; }));
 }
 
 TEST_F(AccessTest, ArrowsChooseAmongOptions) {

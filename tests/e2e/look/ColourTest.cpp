@@ -9,16 +9,39 @@ constexpr double Readable = 4.5;
 
 class ColourTest : public LookFixture {
  protected:
+  // Where a control shows text on a ground of one colour, on the screen; empty where it shows none.
+  static RECT TextAreaOf(const Seen& control) {
+    if (control.Kind == "SysListView32") {
+      return OnScreen(FindWindowExA(control.Window, nullptr, "SysHeader32", nullptr));
+    }
+    if (control.Text.empty()) return {};
+    if (control.Kind == "ComboBox") {
+      COMBOBOXINFO info{};
+      info.cbSize = sizeof info;
+      GetComboBoxInfo(control.Window, &info);
+      MapWindowPoints(control.Window, nullptr, reinterpret_cast<POINT*>(&info.rcItem), 2);
+      return info.rcItem;
+    }
+    if (control.Kind == "Edit") {
+      RECT area{};
+      GetClientRect(control.Window, &area);
+      MapWindowPoints(control.Window, nullptr, reinterpret_cast<POINT*>(&area), 2);
+      return area;
+    }
+    const bool isContainer =
+        (GetWindowLongA(control.Window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
+    const bool hasCaption = control.Kind == "Button" || control.Kind == "VantrelWindow";
+    return hasCaption && !isContainer ? OnScreen(control.Window) : RECT{};
+  }
+
   // A caption in the middle of a gradient is measured against its commonest colour.
   std::string Unreadable(const std::string& form) const {
     std::string found;
     for (const Seen& control : ControlsOf(form)) {
-      const bool isContainer =
-          (GetWindowLongA(control.Window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
-      const bool hasCaption = control.Kind == "Button" || control.Kind == "VantrelWindow";
-      if (!hasCaption || isContainer || control.Text.empty()) continue;
       if (!IsWindowEnabled(control.Window)) continue;
-      const double contrast = ContrastWithin(PixelsOf(OnScreen(control.Window)));
+      const RECT area = TextAreaOf(control);
+      if (IsRectEmpty(&area)) continue;
+      const double contrast = ContrastWithin(PixelsOf(area));
       if (contrast >= Readable) continue;
       found += control.Name + " '" + control.Text + "': " + std::to_string(contrast) + "\n";
     }

@@ -1,5 +1,6 @@
 #include "Copy.h"
 
+#include <commctrl.h>
 #include <tlhelp32.h>
 
 #include <functional>
@@ -126,6 +127,11 @@ std::string ClassNameOf(HWND window) {
   char name[64]{};
   GetClassNameA(window, name, sizeof name);
   return name;
+}
+
+int SelectedRowOf(HWND list) {
+  return static_cast<int>(
+      SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
 }  // namespace vantrel::e2e

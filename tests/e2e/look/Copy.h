@@ -64,6 +64,8 @@ class Copy {
 
 RECT OnScreen(HWND window);
 std::string ClassNameOf(HWND window);
+// The 0-based row that is selected in a list, -1 for none.
+int SelectedRowOf(HWND list);
 
 }  // namespace vantrel::e2e
 

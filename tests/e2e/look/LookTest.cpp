@@ -176,6 +176,13 @@ TEST_P(LookTest, EveryControlOfEveryPanelHasItsPlace) {
   }
 }
 
+TEST_P(LookTest, EveryControlOfTheHelpFrameHasItsPlace) {
+  Start(GetParam());
+  Shown().Choose("submnuLaunchHelp");
+  ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
+  Inspect("frmMain");
+}
+
 TEST_P(LookTest, EveryControlOfTheDialogsHasItsPlace) {
   Start(GetParam());
   InspectDialog("submnuAbout", "FrmAbout");

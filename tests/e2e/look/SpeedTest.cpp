@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "LookFixture.h"
+#include "Pixels.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -77,7 +78,9 @@ TEST_F(SpeedTest, AMouseThatRestsOnALinkCostsNothing) {
   SetCursorPos(0, 0);
   const double away = CpuOfTwoSeconds();
   const RECT link = OnScreen(Shown().Find("frmMain.LnkGraph"));
+  const std::vector<COLORREF> atRest = PixelsOf(link);
   SetCursorPos(link.left + 5, link.top + 5);
+  ASSERT_TRUE(WaitFor([&] { return PixelsOf(link) != atRest; })) << "the link does not hover";
   const double over = CpuOfTwoSeconds();
   std::printf("two seconds: %.0f ms of processor with the mouse away, %.0f ms over a link\n", away,
               over);

@@ -55,7 +55,8 @@ void ReadValues(HKEY key, const std::string& prefix, Tree& tree) {
   }
 }
 
-void ReadInto(HKEY root, const std::string& path, const std::string& prefix, Tree& tree) {
+void ReadInto(HKEY root, const std::string& path, const std::string& prefix,
+              const std::string& without, Tree& tree) {
   const Key key(root, path, KEY_READ);
   if (key.Get() == nullptr) return;
   ReadValues(key.Get(), prefix, tree);
@@ -67,7 +68,8 @@ void ReadInto(HKEY root, const std::string& path, const std::string& prefix, Tre
       return;
     }
     tree[LowerCase(Join(prefix, name) + "\\")] = {};
-    ReadInto(root, Join(path, name), Join(prefix, name), tree);
+    if (!without.empty() && LowerCase(name) == without) continue;
+    ReadInto(root, Join(path, name), Join(prefix, name), without, tree);
   }
 }
 
@@ -166,9 +168,9 @@ void DeleteTree(HKEY root, const std::string& key) {
   RegDeleteKeyA(root, key.c_str());
 }
 
-Tree ReadTree(HKEY root, const std::string& key) {
+Tree ReadTree(HKEY root, const std::string& key, const std::string& without) {
   Tree tree;
-  ReadInto(root, key, "", tree);
+  ReadInto(root, key, "", without, tree);
   return tree;
 }
 

@@ -38,8 +38,9 @@ void DeleteTree(HKEY root, const std::string& key);
 // Every value below the key as "subkey\name" (names in lower case) to content; subkeys themselves
 // as "subkey\" with an empty content of type REG_NONE.
 using Tree = std::map<std::string, StoredValue>;
-// The key itself may be empty, for everything below the root.
-Tree ReadTree(HKEY root, const std::string& key);
+// The key itself may be empty, for everything below the root. Of subkeys named `without` (in lower
+// case) nothing is read but that they are there.
+Tree ReadTree(HKEY root, const std::string& key, const std::string& without = "");
 void WriteTree(HKEY root, const std::string& key, const Tree& tree);
 
 // What was added, removed or changed from one tree to the other, a line each; empty if nothing.

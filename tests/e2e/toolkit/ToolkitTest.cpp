@@ -487,6 +487,13 @@ TEST_F(Hosted, LaterPanelsLieAbove) {
   EXPECT_EQ(GetWindow(HandleOf(upper), GW_HWNDNEXT), HandleOf(lower));
 }
 
+TEST_F(Hosted, APanelShownAgainStaysWhereItLay) {
+  lower.Hide();
+  lower.Show();
+  EXPECT_EQ(GetTopWindow(HandleOf(form)), HandleOf(upper));
+  EXPECT_EQ(GetWindow(HandleOf(upper), GW_HWNDNEXT), HandleOf(lower));
+}
+
 TEST_F(Hosted, TabGoesThroughTheUpperPanelOnly) {
   SetFocus(HandleOf(form.Own));
   Key(VK_TAB);

@@ -311,6 +311,8 @@ TEST_F(HyperLinks, SettersReportTheirChange) {
   EXPECT_EQ(Link().Font().Size, 9);
   EXPECT_EQ(Label().Alignment(), forms::Align::Center);
   EXPECT_EQ(Link().SoundID(), 102);
+  EXPECT_EQ(Label().Appearance(), 0);
+  EXPECT_EQ(Label().BorderStyle(), 1);
 }
 
 TEST_F(HyperLinks, ANewCaptionTellsTheChangeOfTextFirst) {
@@ -337,6 +339,15 @@ TEST_F(HyperLinks, AnUnknownAlignmentIsRefused) {
   Make();
   EXPECT_THROW(Link().SetAlignment(3), text::RuntimeError);
   EXPECT_THROW(Link().SetAlignment(-1), text::RuntimeError);
+}
+
+TEST_F(HyperLinks, AnUnknownAppearanceOrBorderIsRefused) {
+  Make();
+  for (const std::int16_t unknown : {-1, 2}) {
+    EXPECT_THROW(Link().SetAppearance(unknown), text::RuntimeError);
+    EXPECT_THROW(Link().SetBorderStyle(unknown), text::RuntimeError);
+  }
+  EXPECT_TRUE(events_.empty());
 }
 
 TEST_F(HyperLinks, WithAutoSizeTheLinkTakesTheLabelsSize) {
@@ -372,10 +383,15 @@ TEST_F(HyperLinks, WithoutAPlatformTheMouseCountsAsGone) {
   EXPECT_NO_THROW(form.Link.UserClick());
 }
 
-// What differs from the defaults is saved, and nothing else but the extent.
-Events Saved(const HyperLink& link) {
+PropertyBag Bag(const HyperLink& link) {
   PropertyBag bag;
   link.WriteProperties(bag);
+  return bag;
+}
+
+// What differs from the defaults is saved, and nothing else but the extent.
+Events Saved(const HyperLink& link) {
+  const PropertyBag bag = Bag(link);
   Events saved;
   for (const auto& [name, text] : bag.Entries()) saved.push_back(name + "=" + text);
   return saved;
@@ -392,7 +408,7 @@ TEST_F(HyperLinks, TheCaptionLeftOutIsNotTheOneThatAMissingOneReadsAs) {
 }
 
 TEST_F(HyperLinks, EveryPropertyIsSavedAndRead) {
-  const PropertyBag all{{"font", "Arial;95;-1;-1"},
+  const PropertyBag all{{"font", "950;-1;-1;Arial"},
                         {"enabled", "0"},
                         {"caption", "All"},
                         {"alignment", "2"},
@@ -416,6 +432,55 @@ TEST_F(HyperLinks, EveryPropertyIsSavedAndRead) {
   EXPECT_EQ(Link().Font().Size, 9.5);
   EXPECT_EQ(Link().HoverColor(), forms::SystemColor(2));
   EXPECT_EQ(Link().ForeColor(), forms::SystemColor(13));
+  EXPECT_EQ(Link().Appearance(), 0);
+  EXPECT_EQ(Label().Appearance(), 0);
+  EXPECT_EQ(Link().BorderStyle(), 1);
+  EXPECT_EQ(Label().BorderStyle(), 1);
+}
+
+TEST_F(HyperLinks, ReadingWhatWasSavedGivesTheSameLink) {
+  Make({{"autosize", "0"}, {"borderstyle", "1"}, {"appearance", "0"}, {"caption", "Same"}});
+  Link().Move({LinkPlace.Left, LinkPlace.Top, 750, 450});
+  Link().SetFont({.Name = "Arial", .Size = 8.25});
+  const PropertyBag saved = Bag(Link());
+  const Events before = Saved(Link());
+  Make(saved);
+  EXPECT_EQ(Saved(Link()), before);
+}
+
+TEST_F(HyperLinks, TheSavedExtentIsRead) {
+  Make({{"autosize", "0"}, {"_extentx", "750"}, {"_extenty", "450"}});
+  EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 750, 450}));
+  EXPECT_EQ(Label().At(), (forms::Place{0, 0, 750, 450}));
+}
+
+TEST_F(HyperLinks, AnExtentReadLaterIsTakenWhateverTheSizeWas) {
+  Make();
+  Link().ReadProperties({{"_extentx", "750"}, {"_extenty", "450"}, {"autosize", "0"}});
+  EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 750, 450}));
+  Link().ReadProperties({{"autosize", "0"}});
+  EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 750, 450}));
+}
+
+TEST_F(HyperLinks, ASavedFontKeepsItsHundredthsAndAnyName) {
+  const forms::Font font{.Name = "A;b;", .Size = 8.25, .Bold = true};
+  Make();
+  Link().SetFont(font);
+  const PropertyBag saved = Bag(Link());
+  EXPECT_EQ(saved.ReadProperty("font", ""), "825;-1;0;A;b;");
+  Make(saved);
+  EXPECT_TRUE(Link().Font() == font) << Link().Font().Name << ", " << Link().Font().Size;
+}
+
+// Its text would not tell it from its neighbours.
+TEST_F(HyperLinks, TheContainersFontIsTakenAsItIsAndNotSaved) {
+  Make();
+  form_->Area.SetTextFont({.Name = "Arial", .Size = 8.125});
+  Link().ReadProperties({});
+  EXPECT_TRUE(Link().Font() == form_->Area.TextFont()) << Link().Font().Size;
+  EXPECT_FALSE(Bag(Link()).Contains("font"));
+  Link().SetFont({.Name = "Arial", .Size = 8.124});
+  EXPECT_TRUE(Bag(Link()).Contains("font"));
 }
 
 TEST_F(HyperLinks, NamesAreFoundInAnyCaseAndOrder) {
@@ -444,7 +509,10 @@ TEST_F(HyperLinks, WhatIsNoValueIsRefused) {
   for (const PropertyBag& bad :
        {PropertyBag{{"soundid", "many"}}, PropertyBag{{"soundid", "40000"}},
         PropertyBag{{"alignment", "9"}}, PropertyBag{{"forecolor", "&Hxyz"}},
-        PropertyBag{{"font", "Arial"}}, PropertyBag{{"enabled", ""}}}) {
+        PropertyBag{{"font", "Arial"}}, PropertyBag{{"font", "Arial;8;0;0"}},
+        PropertyBag{{"appearance", "2"}}, PropertyBag{{"borderstyle", "-1"}},
+        PropertyBag{{"_extentx", "wide"}}, PropertyBag{{"_extenty", "-15"}},
+        PropertyBag{{"enabled", ""}}}) {
     EXPECT_THROW(Link().ReadProperties(bad), text::RuntimeError) << bad.Entries()[0].Name;
   }
 }
@@ -457,6 +525,8 @@ TEST(PropertyBags, KeepOneTextAName) {
   ASSERT_EQ(bag.Entries().size(), 1U);
   EXPECT_EQ(bag.ReadProperty("CAPTION", "none"), "Two");
   EXPECT_EQ(bag.ReadProperty("colour", "none"), "none");
+  EXPECT_TRUE(bag.Contains("CAPTION"));
+  EXPECT_FALSE(bag.Contains("colour"));
 }
 
 }  // namespace

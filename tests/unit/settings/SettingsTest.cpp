@@ -371,8 +371,11 @@ TEST_F(SettingsTree, AMissingSoundNameClearsTheSwitchUntilTheSwitchIsRead) {
   StoreTree();
   RemoveValue("Block Settings", "NSounds");
   SetNumber("Block Settings", "ShowSound", 1);
+  Notify().chkNS.SetValue(forms::Checked);
+  std::vector<int> states;
+  Notify().chkNS.Click = [&] { states.push_back(Notify().chkNS.Value()); };
   Load();
-  EXPECT_EQ(Notify().chkNS.Value(), 1);
+  EXPECT_THAT(states, ElementsAre(0, 1));
   EXPECT_EQ(Notify().cmbsound.ListIndex(), -1);
 }
 

@@ -18,7 +18,8 @@ class CommandChannel : public test::ShellTest {
     copy = StartCopy();
     Main().Text1.SetText("");
   }
-  windows::frmMain& Main() { return *copy->Windows().frmMain; }
+  program::Windows& Windows() { return copy->Windows(); }
+  windows::frmMain& Main() { return *Windows().frmMain; }
 
   // What any other program may do, by the protocol alone.
   void SendFromOutside(const std::string& command) {
@@ -82,6 +83,18 @@ TEST_F(CommandChannel, TheToolbarsDialogShowsAloneAndTheMainWindowStaysHidden) {
   EXPECT_TRUE(Main().Visible());
 }
 
+TEST_F(CommandChannel, TheDialogShowsAloneAlsoIfTheWindowWasMinimisedInTheTray) {
+  Windows().FrmFrameSettings->chkGHideSystray.SetValue(forms::Checked);
+  world.desktop.ShowWindow(Main().hWnd(), 6);
+  // As the taskbar closes it.
+  world.desktop.Send({Main().hWnd(), 16, 0, 0, nullptr});
+  ASSERT_FALSE(Main().Visible());
+  ASSERT_TRUE(world.desktop.Iconic(Main().hWnd()));
+  StartAgain("/customtoolbar");
+  EXPECT_FALSE(world.desktop.Visible(Main().hWnd()));
+  EXPECT_TRUE(Windows().frmcustom->Visible());
+}
+
 TEST_F(CommandChannel, AnUnknownCommandBringsTheWindowForwardAndChangesNoPanel) {
   for (const char* command : {"", "clean", "/clean ", "/clean now", " /clean", "/unknown"}) {
     Main().Hide();
@@ -114,10 +127,15 @@ TEST_F(CommandChannel, AForeignSenderNeedsOnlyTheProtocol) {
 
 TEST_F(CommandChannel, WhileACommandIsDeliveredTheButtonIsNotFound) {
   platform::WindowHandle during = 1;
-  copy->toolkit.WhenPumped(
-      [&] { during = FindWindowByCaption(copy->program.platform.desktop, ReadyForCommand); });
+  copy->toolkit.WhenPumped([&] { during = FindWindowByCaption(copy->program, ReadyForCommand); });
   SendFromOutside("/graph");
   EXPECT_EQ(during, 0U);
+}
+
+TEST_F(CommandChannel, AProcessSearchesOnce) {
+  const platform::WindowHandle found = FindWindowByCaption(copy->program, ReadyForCommand);
+  ASSERT_EQ(found, Main().cmdDummy.WindowHandle());
+  EXPECT_EQ(FindWindowByCaption(copy->program, "a caption of nobody's"), found);
 }
 
 TEST_F(CommandChannel, ATextWrittenDuringADeliveryIsNotTheCommand) {
@@ -134,6 +152,7 @@ TEST_F(CommandChannel, AnUntrappedErrorOfACommandLeavesTheChannelOpen) {
   EXPECT_THAT(BoxTexts(*copy),
               ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
   EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+  EXPECT_TRUE(Main().Visible());
   StartAgain("/graph");
   EXPECT_TRUE(Main().Visible());
   EXPECT_TRUE(copy->Windows().FrmFrameGraph->Visible());
@@ -188,6 +207,13 @@ TEST_F(CommandChannel, ACaptionIsCutAt127Characters) {
   const auto window = world.desktop.MakeWindow(77, 0, std::string(300, 'w'));
   EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, window), std::string(127, 'w'));
   EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, 0), "");
+}
+
+TEST_F(CommandChannel, OneGulpLoadsAndShowsTheToolbarsDialog) {
+  OneGulp(copy->program, "/CustomToolbar");
+  EXPECT_FALSE(Main().Visible());
+  EXPECT_TRUE(Windows().frmcustom->Visible());
+  EXPECT_EQ(Main().Text1.Text(), "");
 }
 
 TEST_F(CommandChannel, OneGulpShowsAPanelWithoutTraceOrFinalShow) {

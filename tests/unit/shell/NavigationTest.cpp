@@ -255,7 +255,10 @@ TEST_F(Navigation, TheToolbarsDialogOpensBesideTheMainWindow) {
   ASSERT_TRUE(copy->user.Press(Main().Toolbar1, 9));
   EXPECT_TRUE(Windows().frmcustom->Visible());
   EXPECT_TRUE(Main().Visible());
-  Windows().frmcustom->Unload();
+  // It has no button for Esc.
+  EXPECT_TRUE(copy->user.Escape());
+  EXPECT_FALSE(Windows().frmcustom.Loaded());
+  EXPECT_TRUE(Main().Visible());
   ASSERT_TRUE(copy->user.Select(Main().submnuIEToolbar));
   EXPECT_TRUE(Windows().frmcustom->Visible());
 }
@@ -297,12 +300,29 @@ TEST_F(Navigation, AClickBetweenTwoPanelsIsHandled) {
 }
 
 TEST_F(Navigation, CleanIsTheOnePanelWithoutAYield) {
+  using Operation = void (*)(program::Program&);
+  for (const Operation operation :
+       {CaseWelcome, CaseAdBlocking, CaseSettings, CaseAllow, CaseNotify, CaseIESettings,
+        CaseIEPlugins, CaseGraph, CaseLog, CaseHelp}) {
+    bool pumped = false;
+    copy->toolkit.WhenPumped([&] { pumped = true; });
+    operation(copy->program);
+    EXPECT_TRUE(pumped);
+  }
   bool pumped = false;
   copy->toolkit.WhenPumped([&] { pumped = true; });
   CaseClean(copy->program);
   EXPECT_FALSE(pumped);
-  CaseGraph(copy->program);
-  EXPECT_TRUE(pumped);
+}
+
+TEST_F(Navigation, AdBlockingAndSettingsHideEachOtherAndTheWelcomePanel) {
+  CaseSettings(copy->program);
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameSettings"));
+  CaseAdBlocking(copy->program);
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameBlockPreferences"));
+  CaseWelcome(copy->program);
+  CaseSettings(copy->program);
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameSettings"));
 }
 
 TEST_F(Navigation, TheHiddenButtonsAreNamedEntryPoints) {

@@ -11,6 +11,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "blocking/BlockingState.h"
+#include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
 
 namespace vantrel::shell {
@@ -221,6 +223,48 @@ TEST_F(StartTrace, ACloseToTheTray) {
   // All nine show, so that the order of their hiding can be seen.
   for (forms::Form* form : copy->toolkit.LoadedForms()) form->Show();
   ExpectGolden("close-to-tray", Tell([&] { copy->user.Close(*copy->Windows().frmMain); }));
+}
+
+// Each from a window where everything shows, so that what is hidden can be seen, and once more, so
+// that what is shown can be seen.
+TEST_F(StartTrace, TheCaseOperations) {
+  const std::pair<const char*, void (*)(program::Program&)> operations[] = {
+      {"CaseWelcome", CaseWelcome},
+      {"CaseAdBlocking", CaseAdBlocking},
+      {"CaseSettings", CaseSettings},
+      {"CaseClean", CaseClean},
+      {"CaseAllow", CaseAllow},
+      {"CaseNotify", CaseNotify},
+      {"CaseIESettings", CaseIESettings},
+      {"CaseIEPlugins", CaseIEPlugins},
+      {"CaseGraph", CaseGraph},
+      {"CaseLog", CaseLog},
+      {"CaseHelp", CaseHelp},
+  };
+  const auto copy = Listened();
+  Start(copy->program);
+  std::string told;
+  for (const auto& row : operations) {
+    const auto run = [&] { row.second(copy->program); };
+    for (forms::Form* form : copy->toolkit.LoadedForms()) form->Show();
+    copy->Windows().frmMain->frahelp.SetVisible(true);
+    told += std::string(row.first) + "\n" + Tell(run);
+    for (forms::Form* form : copy->toolkit.LoadedForms()) {
+      if (form->Host() != nullptr) form->Hide();
+    }
+    told += std::string(row.first) + " again\n" + Tell(run);
+  }
+  ExpectGolden("case-operations", told);
+}
+
+TEST_F(StartTrace, TheTwoRoutesOfAStart) {
+  const auto copy = Listened();
+  Start(copy->program);
+  copy->Windows().FrmFrameMain->Timer1.SetEnabled(false);
+  ExpectGolden("start-through-stop", Tell([&] { StartThroughStop(copy->program); }));
+  blocking::mnustop_Click(copy->program);
+  copy->Windows().FrmFrameMain->Timer1.SetEnabled(false);
+  ExpectGolden("start-without-stop", Tell([&] { StartWithoutStop(copy->program); }));
 }
 
 TEST_F(StartTrace, TheStartsOwnSizeReplacesOneOfMeanwhile) {

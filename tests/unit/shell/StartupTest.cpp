@@ -210,11 +210,86 @@ TEST_F(Startup, AHandedOverStartHasATrayIconOfItsOwnAndWritesDisabled) {
   EXPECT_THAT(second->process.Trace().LinesOf("RegCreateKeyExA"), IsEmpty());
 }
 
-TEST_F(Startup, TheVersionRecordIsAskedForByItsSize) {
+TEST_F(Startup, ACommandThatArrivesMeanwhileIsCarriedOutAndTheStartGoesOn) {
   auto copy = MakeCopy();
-  copy->process.Faults().FailEvery("GetVersionExA", 87);
+  bool shown = false;
+  copy->toolkit.WhenPumped([&] {
+    const auto button = world.desktop.FindByCaption("Ready for command");
+    ASSERT_NE(button, 0U);
+    world.desktop.SendText(button, 12, 0, "/notify");
+    world.desktop.Send({button, 245, 0, 0, nullptr});
+    shown = copy->Windows().FrmFrameNotification->Visible();
+  });
   Start(copy->program);
-  EXPECT_FALSE(copy->program.IsWindowsNT);
+  EXPECT_TRUE(shown);
+  // The start hides the panels that it has loaded, whoever has shown them.
+  EXPECT_FALSE(copy->Windows().FrmFrameNotification->Visible());
+  EXPECT_TRUE(EngineEntryStands());
+  EXPECT_EQ(copy->Windows().frmMain->cmdDummy.Caption(), "Ready for command");
+  EXPECT_EQ(copy->toolkit.LoadedForms().size(), 11U);
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+}
+
+TEST_F(Startup, AnEndThatArrivesMeanwhileIsTheEnd) {
+  using Leave = void (*)(test::Copy&);
+  const Leave ways[] = {
+      [](test::Copy& copy) {
+        copy.toolkit.AtBorder([&copy] { copy.Windows().frmMain->MnuExit.UserClick(); });
+      },
+      [](test::Copy& copy) { copy.toolkit.UserCloses(*copy.Windows().frmMain); },
+  };
+  for (const Leave leave : ways) {
+    auto copy = MakeCopy();
+    copy->toolkit.WhenPumped([&] { leave(*copy); });
+    Start(copy->program);
+    EXPECT_TRUE(copy->toolkit.Ending());
+    EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
+    EXPECT_THAT(world.tray.Icons(), IsEmpty());
+    EXPECT_FALSE(EngineEntryStands());
+    EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+  }
+}
+
+TEST_F(Startup, ATrayMenuThatIsOpenedMeanwhileIsDismissedAndTheStartGoesOn) {
+  auto copy = MakeCopy();
+  int menus = 0;
+  copy->toolkit.ChooseFromPopup = [&menus](forms::Menu&) -> forms::Menu* {
+    ++menus;
+    return nullptr;
+  };
+  copy->toolkit.WhenPumped([&] { world.tray.Mouse(world.desktop, world.tray.Icons().at(0), 517); });
+  Start(copy->program);
+  EXPECT_EQ(menus, 1);
+  EXPECT_TRUE(EngineEntryStands());
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+}
+
+TEST_F(Startup, AVersionThatCannotBeReadOpensNoGate) {
+  world.registry.Set(HKeyLocalMachine, BrowserKey, "Version", platform::RegSz, "");
+  auto copy = StartCopy();
+  EXPECT_TRUE(copy->toolkit.Ending());
+  EXPECT_THAT(BoxTexts(*copy),
+              ElementsAre("Vantrel does not support Internet Explorer version lesser than 6.0. "
+                          "Please install a higher version."));
+  EXPECT_FALSE(world.registry.HasKey(HKeyCurrentUser, test::RootKey));
+}
+
+TEST_F(Startup, TheVersionTellsWhetherItIsNt) {
+  auto copy = StartCopy();
+  for (const std::uint32_t platform : {0U, 1U, 2U}) {
+    world.version.platformId = platform;
+    copy->program.IsWindowsNT = platform != 2;
+    GetOSVer(copy->program);
+    EXPECT_EQ(copy->program.IsWindowsNT, platform == 2) << platform;
+  }
+  // What is unknown or cannot be asked changes nothing.
+  world.version.platformId = 3;
+  GetOSVer(copy->program);
+  EXPECT_TRUE(copy->program.IsWindowsNT);
+  world.version.platformId = 1;
+  copy->process.Faults().FailEvery("GetVersionExA", 87);
+  GetOSVer(copy->program);
+  EXPECT_TRUE(copy->program.IsWindowsNT);
 }
 
 }  // namespace

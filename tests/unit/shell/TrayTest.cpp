@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "shell/Lifetime.h"
 #include "shell/Tray.h"
 #include "unit/shell/ShellTest.h"
 
@@ -244,6 +245,25 @@ TEST_F(Lifetime, ExitFromWithinANestedPumpUnwindsToTheEnd) {
   });
   EXPECT_TRUE(copy->toolkit.Ending());
   EXPECT_FALSE(after);
+}
+
+TEST_F(Lifetime, MessagesThatEndFromOutsideAreAnEndLikeAnyOther) {
+  Finish(copy->program);
+  EXPECT_TRUE(copy->toolkit.Ending());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
+  EXPECT_THAT(world.tray.Icons(), IsEmpty());
+  // Nothing is left to be done.
+  copy->process.Trace().Clear();
+  Finish(copy->program);
+  EXPECT_THAT(copy->process.Trace().Names(), IsEmpty());
+}
+
+TEST_F(Lifetime, AForeignCloseMessageLeavesAPanelWhereItIs) {
+  for (forms::Form* form : copy->toolkit.LoadedForms()) {
+    if (form != &Main()) world.desktop.Send({form->hWnd(), 16, 0, 0, nullptr});
+  }
+  EXPECT_EQ(copy->toolkit.LoadedForms().size(), 11U);
+  EXPECT_EQ(world.tray.Icons().size(), 1U);
 }
 
 TEST_F(Lifetime, ExitWhileABoxIsUpEndsBehindIt) {

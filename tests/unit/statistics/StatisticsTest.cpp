@@ -179,6 +179,16 @@ TEST_F(Statistics, TheDetailLogMadeFirstOverAnEmptyKeyFillsIt) {
   EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
 }
 
+// Its rows need the Graph panel, whose own refresh fills them.
+TEST_F(Statistics, TheDetailLogMadeBeforeTheGraphHasItsRowsOnce) {
+  Store({1, 2, 3, 4, 5});
+  // Nobody has touched the Graph panel: the read finds no log just then.
+  process.Faults().FailNthCall(1, platform::ErrorAccessDenied);
+  Log();
+  EXPECT_EQ(Log().lstLog.Count(), 5);
+  EXPECT_THAT(process.Boxes(), IsEmpty());
+}
+
 TEST_F(Statistics, WithoutItsKeyTheDetailLogsOwnReadCreatesNone) {
   Log();
   EXPECT_FALSE(world.registry.HasKey(platform::HKeyCurrentUser, Tree("Block Log")));

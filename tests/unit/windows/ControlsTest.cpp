@@ -121,7 +121,7 @@ TEST_F(DesignedControls, OfTheMainWindow) {
                                  {"Label10", "label", "Version 1.0"},
                                  {"cmdADDBHO", "button", "AddBHO", Any, "hidden"},
                                  {"cmdRemoveBHO", "button", "RemoveBHO", Any, "hidden"},
-                                 {"cmdDummy", "button", Any, Any, "hidden"},
+                                 {"cmdDummy", "button", Any},
                                  {"Text1", "text box", Any, Any, "hidden, multi-line"},
                                  {"Timer1", "timer", "", Any, "2000 ms"},
                                  {"ImgLTop", "image"},
@@ -380,6 +380,21 @@ TEST_F(DesignedControls, TheWindowsBearTheirCaptions) {
   EXPECT_EQ(designs_.Main.Caption(), "Qorvel Software Vantrel");
   EXPECT_EQ(designs_.Customize.Caption(), "  Customize Toolbar - Vantrel");
   EXPECT_EQ(designs_.About.Caption(), "About Qorvel Software Vantrel");
+  EXPECT_EQ(designs_.AllowedList.Caption(), "Allowed List");
+  EXPECT_EQ(designs_.Graph.Caption(), "Graphs and Statistics");
+  EXPECT_EQ(designs_.Log.Caption(), "Detail Logs");
+  EXPECT_EQ(designs_.IESettings.CommonDialog2.QualifiedName(), "FrmFrameIESettings.CommonDialog2");
+}
+
+TEST_F(DesignedControls, EachLinkOfTheLeftColumnHasItsPicture) {
+  for (const char* name :
+       {"ImgWelcome", "ImgAdBlocking", "ImgSettings", "ImgClean", "ImgAllowed", "IMgNotify",
+        "ImgCheckRepair", "IeSettings", "ImgIEPlug", "ImgHelp", "ImgGraph", "ImgDetails"}) {
+    forms::Control* const picture = designs_.Main.FindControl(name);
+    ASSERT_NE(dynamic_cast<forms::Image*>(picture), nullptr) << name;
+    EXPECT_EQ(picture->Container(), &designs_.Main.PicBase) << name;
+    EXPECT_TRUE(picture->Visible()) << name;
+  }
 }
 
 TEST_F(DesignedControls, EachIsFoundUnderItsOwnName) {

@@ -1,0 +1,112 @@
+// Messages that another program sends to any window of the program: whatever they claim, no window
+// is lost, nothing that is stored changes, and the program goes on as before.
+#include <algorithm>
+
+#include "support/ProgramTest.h"
+#include "support/TrayCatcher.h"
+
+namespace vantrel::e2e {
+namespace {
+
+struct Foreign {
+  const char* name;
+  UINT message;
+  WPARAM first;
+  LPARAM second;
+};
+
+constexpr Foreign Messages[] = {
+    {"WM_CLOSE", WM_CLOSE, 0, 0},
+    {"SC_CLOSE", WM_SYSCOMMAND, SC_CLOSE, 0},
+    {"WM_DESTROY", WM_DESTROY, 0, 0},
+    {"WM_NCDESTROY", WM_NCDESTROY, 0, 0},
+    {"WM_TIMER of nobody", WM_TIMER, 7777, 0},
+    {"WM_COMMAND of no entry", WM_COMMAND, 0xFFFF, 0},
+    {"WM_COMMAND of no window", WM_COMMAND, 1, 0x7777},
+    {"WM_SIZE that is not so", WM_SIZE, SIZE_RESTORED, MAKELPARAM(7, 7)},
+    {"WM_SHOWWINDOW that is not so", WM_SHOWWINDOW, FALSE, 0},
+    {"WM_ENABLE that is not so", WM_ENABLE, FALSE, 0},
+    {"WM_NOTIFY of nothing", WM_NOTIFY, 0, 0},
+    {"WM_DRAWITEM of nothing", WM_DRAWITEM, 0, 0},
+    {"WM_CTLCOLORSTATIC of nothing", WM_CTLCOLORSTATIC, 0, 0},
+    {"WM_PRINTCLIENT on nothing", WM_PRINTCLIENT, 0, 0},
+    {"WM_GETOBJECT of an unknown kind", WM_GETOBJECT, 0, 1234},
+    {"WM_NEXTDLGCTL", WM_NEXTDLGCTL, 0, FALSE},
+    {"WM_CANCELMODE", WM_CANCELMODE, 0, 0},
+    {"WM_CAPTURECHANGED", WM_CAPTURECHANGED, 0, 0},
+    {"WM_KILLFOCUS", WM_KILLFOCUS, 0, 0},
+    {"WM_MOUSELEAVE", WM_MOUSELEAVE, 0, 0},
+    {"WM_THEMECHANGED", WM_THEMECHANGED, 0, 0},
+    {"WM_SETFONT to none", WM_SETFONT, 0, 0},
+    {"WM_APP + 1", WM_APP + 1, 0, 0},
+    {"WM_USER + 7777", WM_USER + 7777, 0, 0},
+};
+
+// Messages that mean what they say for these windows.
+bool IsMeant(const std::string& window, const Foreign& row) {
+  const bool closes = row.message == WM_CLOSE || row.message == WM_SYSCOMMAND;
+  return closes && window == "frmMain";
+}
+
+class ForeignMessagesTest : public ProgramTest {
+ protected:
+  static std::vector<std::string> NamesOf(const Running& program) {
+    std::vector<std::string> names;
+    for (const auto& [name, window] : program.Named()) names.push_back(name);
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+};
+
+TEST_F(ForeignMessagesTest, NoneOfThemCostsAWindowOrASetting) {
+  const TrayCatcher tray;
+  const Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  const std::vector<std::string> names = NamesOf(program);
+  const Tree stored = ReadTree(HKEY_CURRENT_USER, RootKey);
+  for (const Foreign& row : Messages) {
+    for (const auto& [name, window] : program.Named()) {
+      if (IsMeant(name, row)) continue;
+      DWORD_PTR answer = 0;
+      SendMessageTimeoutA(window, row.message, row.first, row.second, SMTO_ABORTIFHUNG,
+                          DefaultBound, &answer);
+    }
+    ASSERT_TRUE(program.Alive()) << row.name;
+    ASSERT_TRUE(program.Answers()) << row.name;
+    ASSERT_EQ(NamesOf(program), names) << row.name;
+    ASSERT_EQ(program.BoxCount(), 0U) << row.name;
+  }
+  EXPECT_EQ(tray.Icons(), 1U);
+  EXPECT_TRUE(program.IsVisible("FrmFrameMain"));
+  EXPECT_EQ(Difference(stored, ReadTree(HKEY_CURRENT_USER, RootKey)), "");
+  // The channel is open, and hiding still hides.
+  const Running sender("/graph");
+  ASSERT_TRUE(sender.WaitForExit());
+  EXPECT_TRUE(program.IsVisible("FrmFrameGraph"));
+  program.ChooseMenu("MnuHide");
+  EXPECT_TRUE(program.WaitUntilVisible("frmMain", false));
+}
+
+TEST_F(ForeignMessagesTest, AWindowThatAnotherProgramHidesComesBackByTheTray) {
+  const Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  ShowWindow(program.Find("frmMain"), SW_HIDE);
+  ASSERT_TRUE(program.WaitUntilVisible("frmMain", false));
+  program.TrayCallback(WM_LBUTTONDBLCLK);
+  EXPECT_TRUE(program.WaitUntilVisible("frmMain"));
+}
+
+TEST_F(ForeignMessagesTest, AModalDialogThatAnotherProgramHidesKeepsNobodyWaiting) {
+  const Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  program.ChooseMenu("submnuAbout");
+  ASSERT_TRUE(program.WaitUntilVisible("FrmAbout"));
+  ASSERT_FALSE(program.IsEnabled("frmMain"));
+  ShowWindow(program.Find("FrmAbout"), SW_HIDE);
+  EXPECT_TRUE(WaitFor([&] { return program.IsEnabled("frmMain"); }));
+  program.ChooseMenu("submnuAbout");
+  EXPECT_TRUE(program.WaitUntilVisible("FrmAbout"));
+}
+
+}  // namespace
+}  // namespace vantrel::e2e

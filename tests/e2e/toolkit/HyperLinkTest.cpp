@@ -1,0 +1,281 @@
+// The text link on real windows, with the real mouse.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+// After windows.h.
+#include <commctrl.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ProgramPictures.h"
+#include "controls/HyperLink.h"
+#include "forms/Form.h"
+#include "platform/win32/Win32Platform.h"
+
+namespace vantrel::forms::win32 {
+namespace {
+
+constexpr DWORD Bound = 10000;  // milliseconds
+constexpr Color RestColor = 0x112233;
+constexpr Color HoverColor = 0x445566;
+constexpr const char* OwnTip = "Given by the window";
+
+struct LinkForm : Form {
+  explicit LinkForm(Toolkit& toolkit)
+      : Form(toolkit, "Links",
+             {.Caption = "Links",
+              .Width = 6000,
+              .Height = 4500,
+              .Left = -1,
+              .Frame = Border::Sizable}) {}
+
+  // Takes the focus, which would be drawn on the link.
+  CommandButton First{*this, "First", {.Caption = "First", .At = {1200, 2400, 1200, 350}}};
+  controls::HyperLink Link{*this,
+                           "Link",
+                           {.At = {1200, 1200, 2250, 300}, .ToolTipText = OwnTip},
+                           {{"caption", "A link to point at"},
+                            {"hyperlink", ""},
+                            {"hovercolor", controls::HyperLink::ColorText(HoverColor)},
+                            {"forecolor", controls::HyperLink::ColorText(RestColor)}}};
+};
+
+using Events = std::vector<std::string>;
+
+class RealLinks : public testing::Test {
+ protected:
+  RealLinks()
+      : toolkit_(MakeWin32Toolkit(tests::ProgramPictures())),
+        system_(platform::win32::MakeWin32Platform()),
+        platform_(system_->Platform()),
+        form_(*toolkit_) {
+    SetCursorPos(0, 0);
+    GetCursorPos(&away_);
+    Link().UsePlatform(platform_);
+    Link().MouseOver = [this](int, int, float, float) { events_.push_back("MouseOver"); };
+    Link().MouseOut = [this] { events_.push_back("MouseOut"); };
+    Link().Click = [this] { events_.push_back("Click"); };
+    form_.EnsureLoaded();
+    form_.Show();
+    toolkit_->DoEvents();
+  }
+  ~RealLinks() override {
+    form_.Unload();
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    }
+  }
+
+  controls::HyperLink& Link() { return form_.Link; }
+  HWND Window() const { return reinterpret_cast<HWND>(form_.Link.WindowHandle()); }
+  RECT OnScreen() const {
+    RECT area{};
+    GetWindowRect(Window(), &area);
+    return area;
+  }
+
+  // Lets messages through until the condition holds; false if it did not within a bound.
+  bool Await(const std::function<bool()>& condition) const {
+    const DWORD start = GetTickCount();
+    while (!condition()) {
+      if (GetTickCount() - start >= Bound) return false;
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+      toolkit_->DoEvents();
+    }
+    return true;
+  }
+
+  bool PointAt(int x, int y) {
+    const RECT area = OnScreen();
+    SetCursorPos(area.left + x, area.top + y);
+    return Await([this] { return Link().IsOver(); });
+  }
+  bool GoAway() {
+    SetCursorPos(away_.x, away_.y);
+    return AwaitRest();
+  }
+  bool AwaitRest() {
+    return Await([this] { return !Link().IsOver() && !Link().myTimer.Enabled(); });
+  }
+
+  void Key(WPARAM key) const {
+    PostMessageA(GetFocus(), WM_KEYDOWN, key, 0);
+    toolkit_->DoEvents();
+  }
+
+  // What the tool tips of the form hold for the link, empty for none.
+  std::string Tip() const {
+    HWND tips = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&tips));
+    char text[256] = "";
+    TTTOOLINFOA tool{};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.hwnd = reinterpret_cast<HWND>(form_.hWnd());
+    tool.uId = reinterpret_cast<UINT_PTR>(Window());
+    tool.lpszText = text;
+    SendMessageA(tips, TTM_GETTEXTA, sizeof text, reinterpret_cast<LPARAM>(&tool));
+    return text;
+  }
+
+  static BOOL CALLBACK FindTips(HWND window, LPARAM found) {
+    char name[64] = "";
+    GetClassNameA(window, name, sizeof name);
+    if (std::string(name) != TOOLTIPS_CLASSA) return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+  }
+
+  std::unique_ptr<Win32Toolkit> toolkit_;
+  std::unique_ptr<platform::win32::Win32Platform> system_;
+  platform::Platform platform_;
+  Events events_;
+  POINT away_{};
+  LinkForm form_;
+};
+
+// A window of a class that is not the toolkit's, on top of everything.
+class Cover {
+ public:
+  explicit Cover(const RECT& area)
+      : window_(CreateWindowExA(WS_EX_TOPMOST | WS_EX_NOACTIVATE, "EDIT", "", WS_POPUP | WS_VISIBLE,
+                                area.left - 20, area.top - 20, area.right - area.left + 40,
+                                area.bottom - area.top + 40, nullptr, nullptr, nullptr, nullptr)) {}
+  ~Cover() { DestroyWindow(window_); }
+  Cover(const Cover&) = delete;
+  Cover& operator=(const Cover&) = delete;
+
+ private:
+  HWND window_;
+};
+
+TEST_F(RealLinks, HoverUnderTheMouseAndRestWhenItHasLeft) {
+  EXPECT_FALSE(Link().IsOver());
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_TRUE(Link().IsMouseOver());
+  EXPECT_EQ(Link().ForeColor(), HoverColor);
+  EXPECT_TRUE(Link().Font().Underline);
+  EXPECT_TRUE(Link().myTimer.Enabled());
+  ASSERT_TRUE(GoAway());
+  EXPECT_EQ(Link().ForeColor(), RestColor);
+  EXPECT_FALSE(Link().Font().Underline);
+  EXPECT_EQ(events_, (Events{"MouseOver", "MouseOut"}));
+}
+
+TEST_F(RealLinks, KeepHoveringWhileTheMouseMovesOnThem) {
+  ASSERT_TRUE(PointAt(5, 5));
+  int polls = 0;
+  const auto poll = Link().myTimer.Tick;
+  Link().myTimer.Tick = [&] {
+    ++polls;
+    poll();
+  };
+  SetCursorPos(OnScreen().left + 8, OnScreen().top + 6);
+  EXPECT_TRUE(Await([&] { return polls >= 3; }));
+  EXPECT_EQ(events_, Events{"MouseOver"});
+}
+
+TEST_F(RealLinks, RestUnderAWindowThatCoversThem) {
+  ASSERT_TRUE(PointAt(5, 5));
+  {
+    const Cover cover(OnScreen());
+    EXPECT_TRUE(AwaitRest());
+    EXPECT_EQ(Link().ForeColor(), RestColor);
+  }
+  EXPECT_TRUE(PointAt(8, 6));
+  EXPECT_TRUE(GoAway());
+  EXPECT_EQ(events_, (Events{"MouseOver", "MouseOut", "MouseOver", "MouseOut"}));
+}
+
+TEST_F(RealLinks, AHeldButtonOutsideBeginsNoHover) {
+  ASSERT_TRUE(PointAt(5, 5));
+  SendMessageA(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  EXPECT_EQ(GetCapture(), Window());
+  ASSERT_TRUE(GoAway());
+  events_.clear();
+  SendMessageA(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(-50, -50));
+  EXPECT_FALSE(Link().IsOver());
+  SendMessageA(Window(), WM_LBUTTONUP, 0, MAKELPARAM(-50, -50));
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(events_, Events{});
+  EXPECT_TRUE(PointAt(5, 5));
+}
+
+TEST_F(RealLinks, AreClickedByMouseAndKeys) {
+  SendMessageA(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(Window(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(events_, Events{"Click"});
+  SetFocus(Window());
+  Key(VK_SPACE);
+  Key(VK_RETURN);
+  EXPECT_EQ(events_, (Events{"Click", "Click", "Click"}));
+}
+
+TEST_F(RealLinks, ShowTheirAddressAsToolTip) {
+  Link().SetHyperLink("http://elsewhere.example/");
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_EQ(Tip(), "http://elsewhere.example/");
+}
+
+TEST_F(RealLinks, WithoutAnAddressShowNoToolTip) {
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_EQ(Tip(), "");
+}
+
+TEST_F(RealLinks, AnAddressTakenAwayTakesTheToolTipAtTheNextEntry) {
+  Link().SetHyperLink("http://elsewhere.example/");
+  ASSERT_TRUE(PointAt(5, 5));
+  Link().SetHyperLink("");
+  EXPECT_EQ(Tip(), "http://elsewhere.example/");
+  ASSERT_TRUE(GoAway());
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_EQ(Tip(), "");
+}
+
+TEST_F(RealLinks, WithoutAutoToolTipShowTheWindowsOwn) {
+  Link().SetAutoToolTip(false);
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_EQ(Tip(), OwnTip);
+}
+
+// The colour of a pixel of what the window paints.
+COLORREF PaintedAt(HWND window, int x, int y) {
+  RECT area{};
+  GetClientRect(window, &area);
+  const HDC screen = GetDC(nullptr);
+  const HDC context = CreateCompatibleDC(screen);
+  const HBITMAP picture = CreateCompatibleBitmap(screen, area.right, area.bottom);
+  ReleaseDC(nullptr, screen);
+  const HGDIOBJ before = SelectObject(context, picture);
+  SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(context), PRF_CLIENT);
+  const COLORREF color = GetPixel(context, x, y);
+  SelectObject(context, before);
+  DeleteObject(picture);
+  DeleteDC(context);
+  return color;
+}
+
+TEST_F(RealLinks, ABorderIsALineAroundTheText) {
+  const RECT plain = OnScreen();
+  const COLORREF ground = PaintedAt(Window(), 0, 0);
+  Link().SetBorderStyle(1);
+  Link().SyncSize();
+  const RECT framed = OnScreen();
+  EXPECT_EQ(framed.right - framed.left, plain.right - plain.left + 2);
+  EXPECT_EQ(framed.bottom - framed.top, plain.bottom - plain.top + 2);
+  const COLORREF line = GetSysColor(COLOR_WINDOWTEXT);
+  ASSERT_NE(ground, line);
+  const int right = static_cast<int>(framed.right - framed.left) - 1;
+  const int bottom = static_cast<int>(framed.bottom - framed.top) - 1;
+  EXPECT_EQ(PaintedAt(Window(), 0, 0), line);
+  EXPECT_EQ(PaintedAt(Window(), right, bottom), line);
+  EXPECT_EQ(PaintedAt(Window(), right - 1, bottom - 1), ground);
+  Link().SetBorderStyle(0);
+  Link().SyncSize();
+  EXPECT_EQ(PaintedAt(Window(), 0, 0), ground);
+}
+
+}  // namespace
+}  // namespace vantrel::forms::win32
