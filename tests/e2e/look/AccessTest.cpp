@@ -340,11 +340,17 @@ TEST_F(AccessTest, ArrowsChooseAmongOptions) {
 
 TEST_F(AccessTest, WhatHasTheFocusLooksDifferent) {
   StartInFront();
+  // The main window's own are beside every panel.
+  std::set<std::string> seen;
   for (const Screen& screen : Panels) {
     ASSERT_TRUE(Shown().Open(screen));
     const std::size_t count = Reachable(screen.Panel).size();
     for (std::size_t step = 0; step < count; ++step) {
       HWND control = Focused();
+      if (!seen.insert(ControlNameOf(control)).second) {
+        Move(VK_TAB);
+        continue;
+      }
       Shown().Settle();
       const RECT area = OnScreen(control);
       const auto focused = PixelsOf(area);
