@@ -4,6 +4,22 @@
 
 set(VANTREL_WALLS "${CMAKE_BINARY_DIR}/walls")
 
+# vantrel_link_header(<header> <place>): a link to the header; where the system refuses links, a
+# copy that an edit of the header refreshes. A copy stays one, so that configuring again touches
+# nothing.
+function(vantrel_link_header header place)
+  if(EXISTS "${place}" AND IS_SYMLINK "${place}")
+    return()
+  endif()
+  set(refused "a copy is there")
+  if(NOT EXISTS "${place}")
+    file(CREATE_LINK "${header}" "${place}" RESULT refused SYMBOLIC)
+  endif()
+  if(NOT refused STREQUAL "0")
+    configure_file("${header}" "${place}" COPYONLY)
+  endif()
+endfunction()
+
 # vantrel_export_headers(<room> <folder>): links to the folder's own headers under
 # walls/<room>/<folder>/, the room's one public include folder.
 function(vantrel_export_headers room folder)
@@ -19,9 +35,7 @@ function(vantrel_export_headers room folder)
   file(MAKE_DIRECTORY "${exported}")
   foreach(header IN LISTS headers)
     get_filename_component(name "${header}" NAME)
-    if(NOT EXISTS "${exported}/${name}")
-      file(CREATE_LINK "${header}" "${exported}/${name}" COPY_ON_ERROR SYMBOLIC)
-    endif()
+    vantrel_link_header("${header}" "${exported}/${name}")
   endforeach()
 endfunction()
 
