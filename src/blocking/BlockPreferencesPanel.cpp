@@ -7,6 +7,7 @@
 #include "program/PanelHosting.h"
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -90,20 +91,8 @@ constexpr Preset Presets[] = {
        {&Panel::chkBDhtml, 1}}}},
 };
 
-// Keeps PanelBusy true while a box's handler runs, however that ends.
-class Busy {
- public:
-  explicit Busy(Panel& panel) : panel_(panel) { panel_.PanelBusy = true; }
-  ~Busy() { panel_.PanelBusy = false; }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-
- private:
-  Panel& panel_;
-};
-
 void Box_Click(Program& program, Panel& panel, const BoxRow& row) {
-  const Busy busy(panel);
+  const text::ScopedFlag busy(panel.PanelBusy);
   UpdateAllCheck(program);
   SaveBlock(program);
   if (row.Then != nullptr) row.Then(program, (panel.*row.Of).Value());

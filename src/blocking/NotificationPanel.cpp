@@ -3,6 +3,7 @@
 #include "blocking/bmdlsound.h"
 #include "program/PanelHosting.h"
 #include "settings/bmdlSave.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -39,9 +40,8 @@ bool IsListed(const forms::ComboBox& list) {
 
 // Picks a sound in the user's place; nothing is saved.
 void CorrectSound(Panel& panel) {
-  panel.CorrectingSound = true;
+  const text::ScopedFlag correcting(panel.CorrectingSound);
   panel.cmbsound.SetText("click");
-  panel.CorrectingSound = false;
 }
 
 void SelectSomeSound(Panel& panel) {

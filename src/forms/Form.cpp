@@ -4,22 +4,11 @@
 #include <utility>
 
 #include "forms/Bars.h"
+#include "text/ScopedFlag.h"
 #include "text/Strings.h"
 
 namespace vantrel::forms {
 namespace {
-
-// Sets a flag for as long as it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
 
 bool IsNamed(const Control& control, const std::string& name) {
   const std::string qualified = control.QualifiedName();
@@ -103,7 +92,7 @@ void Form::Unload(int mode) {
   bool cancel = false;
   QueryUnload(cancel, mode);
   if (cancel || !loaded_ || unloading_) return;
-  const Raised unloading(unloading_);
+  const text::ScopedFlag unloading(unloading_);
   Unloading(cancel);
   if (!cancel) Destroy();
 }
@@ -132,7 +121,7 @@ void Form::ShowModal() {
   Show();
   if (peer_ && visible_) {
     const Toolkit::Pumping pumping(toolkit_);
-    const Raised modal(modal_);
+    const text::ScopedFlag modal(modal_);
     peer_->RunModal();
   }
   toolkit_.ThrowIfEnding();

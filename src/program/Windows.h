@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/Toolkit.h"
+#include "text/ScopedFlag.h"
 #include "windows/FrmAbout.h"
 #include "windows/FrmFrameAllowList.h"
 #include "windows/FrmFrameBlockPreferences.h"
@@ -49,12 +50,16 @@ class WindowSlot {
 
   void Make() {
     if (window_) toolkit_.Discard(std::move(window_));
-    making_ = true;
+    MakeUpToLoad();
+    window_->EnsureLoaded();
+  }
+
+  // An error on the way leaves a window that the next touch makes anew.
+  void MakeUpToLoad() {
+    const text::ScopedFlag making(making_);
     window_ = std::make_unique<Window>(toolkit_);
     for (const auto& attach : attached_) attach(*window_);
     window_->EnsureInitialized();
-    making_ = false;
-    window_->EnsureLoaded();
   }
 
   forms::Toolkit& toolkit_;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "statistics/BlockLog.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::statistics {
 namespace {
@@ -43,21 +44,9 @@ void ShowRows(Program& program) {
   }
 }
 
-// Keeps the flag up while the box is.
-class BoxShown {
- public:
-  explicit BoxShown(bool& flag) : flag_(flag) { flag_ = true; }
-  ~BoxShown() { flag_ = false; }
-  BoxShown(const BoxShown&) = delete;
-  BoxShown& operator=(const BoxShown&) = delete;
-
- private:
-  bool& flag_;
-};
-
 void ShowRefreshError(Program& program, const text::RuntimeError& error) {
   if (program.RefreshErrorShown) return;
-  const BoxShown shown(program.RefreshErrorShown);
+  const text::ScopedFlag shown(program.RefreshErrorShown);
   program.MsgBox(error.Description());
 }
 
