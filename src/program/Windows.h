@@ -36,8 +36,13 @@ class WindowSlot {
   // Binds behaviour to the window's events, whenever the window is made; in the order given.
   void OnMade(std::function<void(Window&)> attach) { attached_.push_back(std::move(attach)); }
 
-  Window& operator*() {
+  // Makes the window unless it is there, for whoever needs nothing else of it.
+  void EnsureLoaded() {
     if (!Alive()) Make();
+  }
+
+  Window& operator*() {
+    EnsureLoaded();
     return *window_;
   }
   Window* operator->() { return &**this; }

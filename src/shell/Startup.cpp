@@ -75,7 +75,7 @@ std::string PrepareWindow(Program& program, frmMain& form) {
 
 template <class Slot>
 void LoadPanel(Program& program, Slot& panel) {
-  *panel;
+  panel.EnsureLoaded();
   program.DoEvents();
 }
 
@@ -176,7 +176,7 @@ void ApplyGeneralSettings(Program& program) {
 void Start(Program& program) {
   bool finished = false;
   program.toolkit.AtBorder([&program, &finished] {
-    *program.windows.frmMain;
+    program.windows.frmMain.EnsureLoaded();
     finished = true;
   });
   if (finished || program.toolkit.Ending()) return;

@@ -34,7 +34,7 @@ void UpdateRows(Program& program, forms::ListView& list) {
 // The rows come out as freshly added ones, with the first selected.
 void ShowRows(Program& program) {
   // A panel that is made now fills the list itself, before anybody looks at it here.
-  static_cast<void>(*program.windows.FrmFrameGraph);
+  program.windows.FrmFrameGraph.EnsureLoaded();
   forms::ListView& list = program.windows.FrmFrameLog->lstLog;
   if (list.Count() == static_cast<int>(Counters.size())) {
     UpdateRows(program, list);

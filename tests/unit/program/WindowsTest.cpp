@@ -28,8 +28,10 @@ struct FailingOnce {
 
 TEST_F(WindowSlots, AWindowIsMadeByItsFirstUseAndKept) {
   EXPECT_FALSE(slot.Loaded());
-  Panel& made = *slot;
+  slot.EnsureLoaded();
   EXPECT_TRUE(slot.Loaded());
+  Panel& made = *slot;
+  slot.EnsureLoaded();
   EXPECT_EQ(&*slot, &made);
   EXPECT_THAT(toolkit.LoadedForms(), ElementsAre(&made));
 }
@@ -38,10 +40,10 @@ TEST_F(WindowSlots, AnAttachThatFailsOnceLeavesTheWindowToTheNextUse) {
   FailingOnce fail;
   slot.OnMade([&fail](Panel&) { fail(); });
   slot.OnMade([this](Panel& panel) { panel.Load = [this] { ++loads; }; });
-  AsEvent([&] { slot->Show(); });
+  AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_THAT(process.Boxes(), testing::SizeIs(1)) << "the error shows";
   EXPECT_THAT(toolkit.LoadedForms(), IsEmpty());
-  AsEvent([&] { slot->lstLog.Clear(); });
+  AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_TRUE(slot.Loaded());
   EXPECT_EQ(loads, 1);
   EXPECT_EQ(fail.calls, 2) << "the behaviour is attached anew";
@@ -53,9 +55,9 @@ TEST_F(WindowSlots, AnInitializeThatFailsOnceLeavesTheWindowToTheNextUse) {
     panel.Initialize = [&fail] { fail(); };
     panel.Load = [this] { ++loads; };
   });
-  AsEvent([&] { slot->Show(); });
+  AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_FALSE(slot.Loaded());
-  AsEvent([&] { slot->lstLog.Clear(); });
+  AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_TRUE(slot.Loaded());
   EXPECT_EQ(loads, 1);
 }
@@ -72,10 +74,10 @@ TEST_F(WindowSlots, AWindowThatUnloadsItselfInItsLoadIsMadeAnewByTheNextUse) {
     panel.Load = [this, &panel] {
       if (++loads > 1) return;
       panel.Unload();
-      slot->lstLog.Clear();
+      slot.EnsureLoaded();
     };
   });
-  AsEvent([&] { slot->lstLog.Clear(); });
+  AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_EQ(loads, 2);
   EXPECT_TRUE(slot.Loaded());
 }
