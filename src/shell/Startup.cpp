@@ -12,6 +12,7 @@
 #include "statistics/BlockLog.h"
 #include "text/ErrorTrap.h"
 #include "text/Numbers.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::shell {
 namespace {
@@ -171,6 +172,15 @@ void ApplyGeneralSettings(Program& program) {
   }
 }
 
+void LoadStored(Program& program) {
+  const text::ScopedFlag loading(program.LoadingSettings);
+  program.BlockStopped = 1;
+  GetOSVer(program);
+  statistics::ReadBlockLogAtStart(program);
+  settings::LoadBlockSettings(program);
+  ApplyGeneralSettings(program);
+}
+
 }  // namespace
 
 void Start(Program& program) {
@@ -186,16 +196,9 @@ void Start(Program& program) {
 void LoadInitialSettings(Program& program) {
   text::ErrorTrap trap;
   trap([&program] {
-    program.LoadingSettings = true;
-    program.BlockStopped = 1;
-    GetOSVer(program);
-    statistics::ReadBlockLogAtStart(program);
-    settings::LoadBlockSettings(program);
-    ApplyGeneralSettings(program);
-    program.LoadingSettings = false;
+    LoadStored(program);
     program.windows.FrmFrameSettings->chkScript.SetValue(forms::Checked);
   });
-  program.LoadingSettings = false;
 }
 
 void GetOSVer(Program& program) {

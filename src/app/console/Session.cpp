@@ -9,6 +9,7 @@
 #include "app/console/Words.h"
 #include "shell/Attach.h"
 #include "shell/Startup.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::console {
 
@@ -112,9 +113,8 @@ void Session::Apply(const Fault& fault, Copy& copy) const {
 
 void Session::Advance(std::uint64_t milliseconds) {
   if (advancing_) throw CommandError("the clock moves already");
-  advancing_ = true;
+  const text::ScopedFlag advancing(advancing_);
   world_->clock.Advance(milliseconds);
-  advancing_ = false;
 }
 
 void Session::Before() {
