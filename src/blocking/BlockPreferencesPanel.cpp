@@ -15,16 +15,16 @@ namespace {
 using forms::CheckBox;
 using program::Program;
 using Panel = windows::FrmFrameBlockPreferences;
-using Box = CheckBox Panel::*;
+using BoxMember = CheckBox Panel::*;
 
 // The boxes that the master box stands for.
-constexpr Box AllRule[] = {&Panel::chkBAdv,    &Panel::chkBBanner, &Panel::chkBDhtml,
-                           &Panel::chkBDialog, &Panel::chkBFlash,  &Panel::chkBPopup};
+constexpr BoxMember AllRule[] = {&Panel::chkBAdv,    &Panel::chkBBanner, &Panel::chkBDhtml,
+                                 &Panel::chkBDialog, &Panel::chkBFlash,  &Panel::chkBPopup};
 
 // The boxes that the master box sets, in its order: two more than it stands for.
-constexpr Box Cascade[] = {&Panel::chkBDhtml,     &Panel::chkBDialog, &Panel::chkBFlash,
-                           &Panel::chkBBanner,    &Panel::chkBPopup,  &Panel::chkBAdv,
-                           &Panel::chkBDialogBox, &Panel::chkBSpyware};
+constexpr BoxMember Cascade[] = {&Panel::chkBDhtml,     &Panel::chkBDialog, &Panel::chkBFlash,
+                                 &Panel::chkBBanner,    &Panel::chkBPopup,  &Panel::chkBAdv,
+                                 &Panel::chkBDialogBox, &Panel::chkBSpyware};
 
 // What else a box does after its save, given its state.
 using SideEffect = void (*)(Program&, int state);
@@ -40,7 +40,7 @@ void FollowSpyware(Program& program, int state) {
 }
 
 struct BoxRow {
-  Box Of;
+  BoxMember Box;
   SideEffect Then = nullptr;
 };
 
@@ -58,7 +58,7 @@ constexpr BoxRow BoxRows[] = {
 static_assert(std::size(BoxRows) == std::size(Cascade));
 
 struct Assignment {
-  Box Of;
+  BoxMember Box;
   int State;
 };
 
@@ -95,7 +95,7 @@ void Box_Click(Program& program, Panel& panel, const BoxRow& row) {
   const text::ScopedFlag busy(panel.PanelBusy);
   UpdateAllCheck(program);
   SaveBlock(program);
-  if (row.Then != nullptr) row.Then(program, (panel.*row.Of).Value());
+  if (row.Then != nullptr) row.Then(program, (panel.*row.Box).Value());
 }
 
 void WriteZone(Program& program, const char* policy, std::int32_t value) {
@@ -111,7 +111,7 @@ void SaveBlock(Program& program) { settings::SaveBlockSettingsGuarded(program); 
 
 void UpdateAllCheck(Program& program) {
   Panel& panel = *program.windows.FrmFrameBlockPreferences;
-  const bool all = std::all_of(std::begin(AllRule), std::end(AllRule), [&panel](Box box) {
+  const bool all = std::all_of(std::begin(AllRule), std::end(AllRule), [&panel](BoxMember box) {
     return (panel.*box).Value() == forms::Checked;
   });
   panel.chkAll.SetValue(all ? forms::Checked : forms::Unchecked);
@@ -135,7 +135,7 @@ void chkAll_Click(Program& program) {
   if (panel.PanelBusy) return;
   const int state = panel.chkAll.Value();
   if (state == forms::Checked || state == forms::Unchecked) {
-    for (const Box box : Cascade) (panel.*box).SetValue(state);
+    for (const BoxMember box : Cascade) (panel.*box).SetValue(state);
   }
   panel.cmdsave.SetEnabled(true);
 }
@@ -145,14 +145,14 @@ void cmbinternet_Change(Program& program) {
   const std::string name = panel.cmbinternet.Text();
   for (const Preset& preset : Presets) {
     if (preset.Name != name) continue;
-    for (const Assignment& row : preset.Assignments) (panel.*row.Of).SetValue(row.State);
+    for (const Assignment& row : preset.Assignments) (panel.*row.Box).SetValue(row.State);
   }
 }
 
 void Attach(Program& program, Panel& form) {
   form.Load = [&program, &form] { program::HostPanel(program, form); };
   for (const BoxRow& row : BoxRows) {
-    (form.*row.Of).Click = [&program, &form, &row] { Box_Click(program, form, row); };
+    (form.*row.Box).Click = [&program, &form, &row] { Box_Click(program, form, row); };
   }
   form.chkAll.Click = [&program] { chkAll_Click(program); };
   form.cmbinternet.Change = [&program] { cmbinternet_Change(program); };

@@ -11,14 +11,14 @@ namespace {
 using program::Program;
 using settings::SaveNotificationGuarded;
 using Panel = windows::FrmFrameNotification;
-using Box = forms::CheckBox Panel::*;
+using BoxMember = forms::CheckBox Panel::*;
 
 // The boxes that "Don't Notify at all" clears, in its order.
-constexpr Box Notifications[] = {&Panel::chkNMC, &Panel::chkNPH, &Panel::chkNPHF, &Panel::chkNS,
-                                 &Panel::chkNW};
+constexpr BoxMember Notifications[] = {&Panel::chkNMC, &Panel::chkNPH, &Panel::chkNPHF,
+                                       &Panel::chkNS, &Panel::chkNW};
 
 struct DefaultRow {
-  Box Of;
+  BoxMember Box;
   int State;
 };
 
@@ -60,7 +60,7 @@ void SilenceEndingBox_Click(Program& program, Panel& panel, const forms::CheckBo
 void chkNAll_Click(Program& program) {
   Panel& panel = *program.windows.FrmFrameNotification;
   if (panel.chkNAll.Value() != forms::Checked) return;
-  for (const Box box : Notifications) (panel.*box).SetValue(forms::Unchecked);
+  for (const BoxMember box : Notifications) (panel.*box).SetValue(forms::Unchecked);
 }
 
 void chkNS_Click(Program& program) {
@@ -80,7 +80,7 @@ void cmbsound_Click(Program& program) {
 
 void cmdDefaultNotify_Click(Program& program) {
   Panel& panel = *program.windows.FrmFrameNotification;
-  for (const DefaultRow& row : Defaults) (panel.*row.Of).SetValue(row.State);
+  for (const DefaultRow& row : Defaults) (panel.*row.Box).SetValue(row.State);
 }
 
 void cmbsound_Validate(Program& program, bool& keepFocus) {
@@ -105,7 +105,7 @@ void Attach(Program& program, Panel& form) {
     program::HostPanel(program, form);
     SelectSomeSound(form);
   };
-  for (const Box box : {&Panel::chkNW, &Panel::chkNPH, &Panel::chkNPHF}) {
+  for (const BoxMember box : {&Panel::chkNW, &Panel::chkNPH, &Panel::chkNPHF}) {
     (form.*box).Click = [&program, &form, box] {
       SilenceEndingBox_Click(program, form, form.*box);
     };

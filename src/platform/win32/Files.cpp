@@ -12,12 +12,12 @@ namespace {
 
 std::int32_t LastError() { return static_cast<std::int32_t>(GetLastError()); }
 
-// What an existing file has to be opened with to be replaced: without its own marks a hidden one
-// is refused.
-DWORD MarksToKeep(const std::string& path) {
-  const DWORD marks = GetFileAttributesA(path.c_str());
-  if (marks == INVALID_FILE_ATTRIBUTES) return FILE_ATTRIBUTE_NORMAL;
-  const DWORD kept = marks & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+// What an existing file has to be opened with to be replaced: without its own attributes a
+// hidden one is refused.
+DWORD AttributesToKeep(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return FILE_ATTRIBUTE_NORMAL;
+  const DWORD kept = attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
   return kept == 0 ? FILE_ATTRIBUTE_NORMAL : kept;
 }
 
@@ -36,14 +36,14 @@ std::int32_t WriteAll(HANDLE file, const std::string& content) {
 class FilesAdapter : public Files {
  public:
   bool FileExists(const std::string& path) override {
-    const DWORD marks = GetFileAttributesA(path.c_str());
-    return marks != INVALID_FILE_ATTRIBUTES && (marks & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
   }
 
   std::int32_t WriteTextFile(const std::string& path, const std::string& content) override {
     const FileHandle file(CreateFileA(path.c_str(), GENERIC_WRITE,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, CREATE_ALWAYS,
-                                      MarksToKeep(path), nullptr));
+                                      AttributesToKeep(path), nullptr));
     return file.Valid() ? WriteAll(file.Get(), content) : LastError();
   }
 };

@@ -54,8 +54,11 @@ class SystemAdapter : public System {
 
  private:
   void Claim() {
-    std::string name = "Local\\Instance." + ProgramName();
-    CharUpperBuffA(name.data() + 6, static_cast<DWORD>(name.size() - 6));
+    // In the session's own namespace; the system knows its name in this spelling alone.
+    const std::string session = "Local\\";
+    std::string instance = "Instance." + ProgramName();
+    CharUpperBuffA(instance.data(), static_cast<DWORD>(instance.size()));
+    const std::string name = session + instance;
     claim_.Reset(CreateMutexA(nullptr, FALSE, name.c_str()));
     // A mutex that may not be opened is another copy's, running with greater rights.
     const DWORD error = GetLastError();

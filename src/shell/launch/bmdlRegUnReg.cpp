@@ -7,7 +7,7 @@ namespace {
 
 using platform::Modules;
 
-constexpr std::uint32_t Patience = 10000;  // milliseconds
+constexpr std::uint32_t Timeout = 10000;  // milliseconds
 
 struct Entry {
   const char* name;
@@ -41,7 +41,7 @@ std::int32_t RunEntry(Modules& modules, const std::string& path, const Entry& en
   std::uint32_t identifier = 0;
   held.thread = modules.CreateThread(noSecurity, 0, routine, 0, 0, identifier);
   if (held.thread == 0) return StatusNoThread;
-  const std::uint32_t waited = modules.WaitForSingleObject(held.thread, Patience);
+  const std::uint32_t waited = modules.WaitForSingleObject(held.thread, Timeout);
   return waited == platform::WaitObject ? entry.success : GiveUp(modules, held.thread);
 }
 
