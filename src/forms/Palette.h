@@ -23,7 +23,6 @@ inline constexpr Color WindowText = SystemColor(8);
 inline constexpr Color Highlight = SystemColor(13);
 inline constexpr Color HighlightText = SystemColor(14);
 inline constexpr Color ButtonFace = SystemColor(15);
-inline constexpr Color ButtonShadow = SystemColor(16);
 inline constexpr Color GrayText = SystemColor(17);
 inline constexpr Color ButtonText = SystemColor(18);
 inline constexpr Color HotLight = SystemColor(26);
