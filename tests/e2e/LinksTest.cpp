@@ -77,6 +77,19 @@ TEST_F(LinksTest, EachLinkStartsTheBrowserWithItsPage) {
   EXPECT_EQ(program.BoxCount(), 0U);
 }
 
+// A page with a scheme, and one without.
+TEST_F(LinksTest, TheBrowserIsToldToShowANormalWindow) {
+  RecordedBrowser browser;
+  Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  for (const char* link : {"FrmFrameMain.cmdtest", "FrmFrameMain.Label6"}) {
+    ClickControl(program, link);
+    const auto starts = browser.WaitForStarts();
+    ASSERT_EQ(starts.size(), 1U) << link;
+    EXPECT_EQ(starts[0].windowState, std::to_string(SW_SHOWNORMAL)) << link;
+  }
+}
+
 TEST_F(LinksTest, TheHelpToolOpensThePageAfterItsNavigation) {
   RecordedBrowser browser;
   Running program;
