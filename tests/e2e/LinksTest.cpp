@@ -160,6 +160,23 @@ TEST_F(LinksTest, AFolderWithBlanksAndLettersOfAllKindsReachesTheBrowserAsOneArg
   }
 }
 
+// The root's folder ends in a backslash, which stands beside the literal's own.
+TEST_F(LinksTest, AProgramInADrivesRootOpensWhatLiesBesideIt) {
+  const ProgramCopy copy(ProgramCopy::InRoot);
+  const std::string root = copy.Folder() + "\\";
+  RecordedBrowser browser;
+  Running program("", copy.Executable());
+  ASSERT_TRUE(program.WaitUntilIdle());
+  EXPECT_EQ(Read(HKEY_LOCAL_MACHINE, EngineKey, "Path"), Text(root + "\\Settings"));
+  program.MouseClick("FrmFrameMain.Label6");
+  EXPECT_EQ(browser.WaitForLines(),
+            std::vector{RecordedBrowser::Program() + " \"" + root + "\\help\\welcome.htm\""});
+  WriteFileBytes(copy.LogFile(), "a line\r\n");
+  program.ChooseMenu("submnuLogFile");
+  EXPECT_EQ(browser.WaitForLines(),
+            std::vector{RecordedBrowser::Program() + " \"" + root + "/Settings/Log.txt\""});
+}
+
 TEST_F(LinksTest, TheLogFileOpensUnderItsOtherSpellingIfItIsThere) {
   const ProgramCopy copy("Vantrel log");
   RecordedBrowser browser;
