@@ -21,7 +21,8 @@ int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*
   program::Program program(platform->Platform(), *toolkit);
   shell::AttachProgram(program);
   shell::Start(program);
-  if (!toolkit->Ending()) toolkit->RunMessageLoop();
+  // Without a window nobody could end the program, nor start another copy.
+  if (!toolkit->Ending() && program.windows.frmMain.Loaded()) toolkit->RunMessageLoop();
   shell::Finish(program);
   return 0;
 }

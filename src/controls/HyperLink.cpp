@@ -1,6 +1,6 @@
 #include "controls/HyperLink.h"
 
-#include <string_view>
+#include <vector>
 
 #include "forms/Form.h"
 #include "text/ErrorTrap.h"
@@ -125,29 +125,14 @@ const HyperLink::Property HyperLink::Properties[] = {
      [](HyperLink& link, const std::string& text) { link.moPointer_ = Boolean(text); }},
 };
 
-HyperLink::HyperLink(forms::Form& form, std::string name, const forms::Design& design,
+HyperLink::HyperLink(const forms::Parent& parent, std::string name, const forms::Design& design,
                      const PropertyBag& saved)
-    : UserControl(form, std::move(name), design),
+    : UserControl(parent, std::move(name), design),
       lblHyperlink(*this, "lblHyperlink",
                    {.Caption = DefaultCaption,
                     .At = {0, 0, design.At.Width, design.At.Height},
                     .TextFont = {.Name = "Tahoma"}}),
       myTimer(*this, "myTimer", PollInterval, false) {
-  Initialize(saved);
-}
-
-HyperLink::HyperLink(forms::Control& container, std::string name, const forms::Design& design,
-                     const PropertyBag& saved)
-    : UserControl(container, std::move(name), design),
-      lblHyperlink(*this, "lblHyperlink",
-                   {.Caption = DefaultCaption,
-                    .At = {0, 0, design.At.Width, design.At.Height},
-                    .TextFont = {.Name = "Tahoma"}}),
-      myTimer(*this, "myTimer", PollInterval, false) {
-  Initialize(saved);
-}
-
-void HyperLink::Initialize(const PropertyBag& saved) {
   lblHyperlink.Click = [this] { LabelClicked(); };
   lblHyperlink.Change = [this] { LabelChanged(); };
   lblHyperlink.MouseMove = [this](int button, int shift, float x, float y) {
@@ -159,8 +144,6 @@ void HyperLink::Initialize(const PropertyBag& saved) {
   lblHyperlink.MouseUp = [this](int button, int shift, float x, float y) {
     MouseUp(button, shift, x, y);
   };
-  // The label fills the surface: a move over the surface is one over the label.
-  MouseMove = [this](int button, int shift, float x, float y) { LabelMoved(button, shift, x, y); };
   myTimer.Tick = [this] { TimerTicked(); };
   ReadProperties(saved);
   SetWindowText(Caption());

@@ -22,9 +22,7 @@ class HyperLink : public forms::UserControl {
   static constexpr int PollInterval = 50;  // milliseconds
 
   // The tool tip and the place come from the design, all else from what is saved.
-  HyperLink(forms::Form& form, std::string name, const forms::Design& design,
-            const PropertyBag& saved = {});
-  HyperLink(forms::Control& container, std::string name, const forms::Design& design,
+  HyperLink(const forms::Parent& parent, std::string name, const forms::Design& design,
             const PropertyBag& saved = {});
 
   // Whom to ask for the mouse and for the opening of addresses. Until it is told, the mouse counts
@@ -34,8 +32,8 @@ class HyperLink : public forms::UserControl {
   // Setters store the value and report the change by PropertyChanged.
   const forms::Font& Font() const { return lblHyperlink.TextFont(); }
   void SetFont(const forms::Font& font);
-  bool Enabled() const { return lblHyperlink.Enabled(); }
-  void SetEnabled(bool enabled);
+  bool Enabled() const override { return lblHyperlink.Enabled(); }
+  void SetEnabled(bool enabled) override;
   const std::string& Caption() const { return lblHyperlink.Caption(); }
   void SetCaption(const std::string& caption);
   // 0 left, 1 right, 2 centred; error 380 for anything else, and so below.
@@ -54,10 +52,10 @@ class HyperLink : public forms::UserControl {
   // 0 none, 1 a single line.
   std::int16_t BorderStyle() const { return static_cast<std::int16_t>(lblHyperlink.BorderStyle()); }
   void SetBorderStyle(std::int16_t borderStyle);
-  forms::Color ForeColor() const { return lblHyperlink.ForeColor(); }
-  void SetForeColor(forms::Color color);
-  forms::Color BackColor() const { return lblHyperlink.BackColor(); }
-  void SetBackColor(forms::Color color);
+  forms::Color ForeColor() const override { return lblHyperlink.ForeColor(); }
+  void SetForeColor(forms::Color color) override;
+  forms::Color BackColor() const override { return lblHyperlink.BackColor(); }
+  void SetBackColor(forms::Color color) override;
   bool AutoToolTip() const { return autoToolTip_; }
   void SetAutoToolTip(bool autoToolTip);
   bool SoundOn() const { return soundOn_; }
@@ -113,7 +111,6 @@ class HyperLink : public forms::UserControl {
   struct Property;
   static const Property Properties[];
 
-  void Initialize(const PropertyBag& saved);
   const forms::Font& ContainerFont() const;
   forms::Color ContainerForeColor() const;
   forms::Color ContainerBackColor() const;

@@ -7,15 +7,9 @@
 
 namespace vantrel::forms {
 
-Chart::Chart(Form& form, std::string name, const Design& design, std::string rowLabel,
+Chart::Chart(const Parent& parent, std::string name, const Design& design, std::string rowLabel,
              std::vector<ChartColumn> columns)
-    : Control(form, std::move(name), design),
-      rowLabel_(std::move(rowLabel)),
-      columns_(std::move(columns)) {}
-
-Chart::Chart(Control& container, std::string name, const Design& design, std::string rowLabel,
-             std::vector<ChartColumn> columns)
-    : Control(container, std::move(name), design),
+    : Control(parent, std::move(name), design),
       rowLabel_(std::move(rowLabel)),
       columns_(std::move(columns)) {}
 

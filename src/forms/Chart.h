@@ -17,9 +17,7 @@ struct ChartColumn {
 
 class Chart : public Control {
  public:
-  Chart(Form& form, std::string name, const Design& design, std::string rowLabel,
-        std::vector<ChartColumn> columns);
-  Chart(Control& container, std::string name, const Design& design, std::string rowLabel,
+  Chart(const Parent& parent, std::string name, const Design& design, std::string rowLabel,
         std::vector<ChartColumn> columns);
   void Accept(ControlVisitor& visitor) override;
 

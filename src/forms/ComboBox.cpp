@@ -9,15 +9,9 @@
 
 namespace vantrel::forms {
 
-ComboBox::ComboBox(Form& form, std::string name, const Design& design, ComboStyle style,
+ComboBox::ComboBox(const Parent& parent, std::string name, const Design& design, ComboStyle style,
                    std::vector<std::string> entries)
-    : Control(form, std::move(name), design), style_(style), entries_(std::move(entries)) {
-  listIndex_ = IndexOf(WindowText());
-}
-
-ComboBox::ComboBox(Control& container, std::string name, const Design& design, ComboStyle style,
-                   std::vector<std::string> entries)
-    : Control(container, std::move(name), design), style_(style), entries_(std::move(entries)) {
+    : Control(parent, std::move(name), design), style_(style), entries_(std::move(entries)) {
   listIndex_ = IndexOf(WindowText());
 }
 

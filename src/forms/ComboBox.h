@@ -13,9 +13,7 @@ enum class ComboStyle { Editable, PickOnly };
 
 class ComboBox : public Control {
  public:
-  ComboBox(Form& form, std::string name, const Design& design, ComboStyle style,
-           std::vector<std::string> entries);
-  ComboBox(Control& container, std::string name, const Design& design, ComboStyle style,
+  ComboBox(const Parent& parent, std::string name, const Design& design, ComboStyle style,
            std::vector<std::string> entries);
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }

@@ -6,8 +6,11 @@
 
 namespace vantrel::forms {
 
-Control::Control(Form& form, std::string name, const Design& design)
-    : form_(form),
+Parent::Parent(Control& container) : Form(container.Owner()), Container(&container) {}
+
+Control::Control(const Parent& parent, std::string name, const Design& design)
+    : form_(parent.Form),
+      container_(parent.Container),
       name_(std::move(name)),
       index_(design.Index),
       windowText_(design.Caption),
@@ -19,11 +22,6 @@ Control::Control(Form& form, std::string name, const Design& design)
       visible_(design.Visible),
       enabled_(design.Enabled) {
   form_.controls_.push_back(this);
-}
-
-Control::Control(Control& container, std::string name, const Design& design)
-    : Control(container.form_, std::move(name), design) {
-  container_ = &container;
 }
 
 Control::~Control() {

@@ -14,16 +14,25 @@
 
 namespace vantrel::forms {
 
+class Control;
 class ControlVisitor;
 class Form;
 
 // Buttons as 1 left, 2 right, 4 middle; shift as 1 shift, 2 control, 4 alt; in twips.
 using MouseEvent = Event<int, int, float, float>;
 
+// What a control is made in: a form, or a container on one.
+struct Parent {
+  Parent(forms::Form& form) : Form(form) {}  // NOLINT(google-explicit-constructor)
+  Parent(Control& container);                // NOLINT(google-explicit-constructor)
+
+  forms::Form& Form;
+  Control* Container = nullptr;
+};
+
 class Control {
  public:
-  Control(Form& form, std::string name, const Design& design);
-  Control(Control& container, std::string name, const Design& design);
+  Control(const Parent& parent, std::string name, const Design& design);
   virtual ~Control();
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
@@ -50,18 +59,18 @@ class Control {
 
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
-  bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled);
+  virtual bool Enabled() const { return enabled_; }
+  virtual void SetEnabled(bool enabled);
   const std::string& ToolTipText() const { return toolTipText_; }
   void SetToolTipText(const std::string& text);
 
   const Place& At() const { return place_; }
   void Move(const Place& place);
 
-  Color BackColor() const { return backColor_; }
-  void SetBackColor(Color color);
-  Color ForeColor() const { return foreColor_; }
-  void SetForeColor(Color color);
+  virtual Color BackColor() const { return backColor_; }
+  virtual void SetBackColor(Color color);
+  virtual Color ForeColor() const { return foreColor_; }
+  virtual void SetForeColor(Color color);
   const Font& TextFont() const { return font_; }
   void SetTextFont(const Font& font);
   int MousePointer() const { return mousePointer_; }

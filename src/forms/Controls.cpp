@@ -53,13 +53,8 @@ void Label::SetBorderStyle(int borderStyle) {
   Changed(Aspect::Font);
 }
 
-CommandButton::CommandButton(Form& form, std::string name, const Design& design)
-    : CaptionedControl(form, std::move(name), design),
-      default_(design.Default),
-      cancel_(design.Cancel) {}
-
-CommandButton::CommandButton(Control& container, std::string name, const Design& design)
-    : CaptionedControl(container, std::move(name), design),
+CommandButton::CommandButton(const Parent& parent, std::string name, const Design& design)
+    : CaptionedControl(parent, std::move(name), design),
       default_(design.Default),
       cancel_(design.Cancel) {}
 
@@ -69,11 +64,8 @@ void CommandButton::SetValue(bool value) {
   if (value) Click();
 }
 
-CheckBox::CheckBox(Form& form, std::string name, const Design& design, int value)
-    : CaptionedControl(form, std::move(name), design), value_(value) {}
-
-CheckBox::CheckBox(Control& container, std::string name, const Design& design, int value)
-    : CaptionedControl(container, std::move(name), design), value_(value) {}
+CheckBox::CheckBox(const Parent& parent, std::string name, const Design& design, int value)
+    : CaptionedControl(parent, std::move(name), design), value_(value) {}
 
 void CheckBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
@@ -89,11 +81,8 @@ void CheckBox::UserClick() {
   if (Enabled()) SetValue(value_ == Unchecked ? Checked : Unchecked);
 }
 
-OptionButton::OptionButton(Form& form, std::string name, const Design& design, bool value)
-    : CaptionedControl(form, std::move(name), design), value_(value) {}
-
-OptionButton::OptionButton(Control& container, std::string name, const Design& design, bool value)
-    : CaptionedControl(container, std::move(name), design), value_(value) {}
+OptionButton::OptionButton(const Parent& parent, std::string name, const Design& design, bool value)
+    : CaptionedControl(parent, std::move(name), design), value_(value) {}
 
 void OptionButton::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
@@ -118,11 +107,8 @@ void OptionButton::UserClick() {
   if (Enabled()) SetValue(true);
 }
 
-TextBox::TextBox(Form& form, std::string name, const Design& design, TextBoxDesign box)
-    : Control(form, std::move(name), design), box_(box) {}
-
-TextBox::TextBox(Control& container, std::string name, const Design& design, TextBoxDesign box)
-    : Control(container, std::move(name), design), box_(box) {}
+TextBox::TextBox(const Parent& parent, std::string name, const Design& design, TextBoxDesign box)
+    : Control(parent, std::move(name), design), box_(box) {}
 
 void TextBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
@@ -158,11 +144,8 @@ void ProgressBar::SetRange(int min, int max) {
   Changed(Aspect::Value);
 }
 
-Timer::Timer(Form& form, std::string name, int interval, bool enabled)
-    : Control(form, std::move(name), TimerDesign(enabled)), interval_(interval) {}
-
-Timer::Timer(Control& container, std::string name, int interval, bool enabled)
-    : Control(container, std::move(name), TimerDesign(enabled)), interval_(interval) {}
+Timer::Timer(const Parent& parent, std::string name, int interval, bool enabled)
+    : Control(parent, std::move(name), TimerDesign(enabled)), interval_(interval) {}
 
 void Timer::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 

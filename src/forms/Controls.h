@@ -44,8 +44,7 @@ class Label : public CaptionedControl {
 
 class CommandButton : public CaptionedControl {
  public:
-  CommandButton(Form& form, std::string name, const Design& design);
-  CommandButton(Control& container, std::string name, const Design& design);
+  CommandButton(const Parent& parent, std::string name, const Design& design);
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 
@@ -66,8 +65,7 @@ inline constexpr int Grayed = 2;
 
 class CheckBox : public CaptionedControl {
  public:
-  CheckBox(Form& form, std::string name, const Design& design, int value = Unchecked);
-  CheckBox(Control& container, std::string name, const Design& design, int value = Unchecked);
+  CheckBox(const Parent& parent, std::string name, const Design& design, int value = Unchecked);
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 
@@ -83,8 +81,7 @@ class CheckBox : public CaptionedControl {
 
 class OptionButton : public CaptionedControl {
  public:
-  OptionButton(Form& form, std::string name, const Design& design, bool value = false);
-  OptionButton(Control& container, std::string name, const Design& design, bool value = false);
+  OptionButton(const Parent& parent, std::string name, const Design& design, bool value = false);
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 
@@ -108,8 +105,7 @@ struct TextBoxDesign {
 
 class TextBox : public Control {
  public:
-  TextBox(Form& form, std::string name, const Design& design, TextBoxDesign box = {});
-  TextBox(Control& container, std::string name, const Design& design, TextBoxDesign box = {});
+  TextBox(const Parent& parent, std::string name, const Design& design, TextBoxDesign box = {});
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 
@@ -167,8 +163,7 @@ class ProgressBar : public Control {
 // Raises Tick every Interval milliseconds while it is enabled and the interval is not 0.
 class Timer : public Control {
  public:
-  Timer(Form& form, std::string name, int interval, bool enabled = true);
-  Timer(Control& container, std::string name, int interval, bool enabled = true);
+  Timer(const Parent& parent, std::string name, int interval, bool enabled = true);
   void Accept(ControlVisitor& visitor) override;
 
   int Interval() const { return interval_; }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/Bars.h"
+#include "forms/Keys.h"
 #include "text/ScopedFlag.h"
 #include "text/Strings.h"
 
@@ -17,7 +18,8 @@ bool IsNamed(const Control& control, const std::string& name) {
 
 void AppendTabStops(const Form& form, std::vector<Control*>& stops) {
   for (Control* control : form.Controls()) {
-    if (control->IsTabStop() && control->Reachable()) stops.push_back(control);
+    if (!control->IsTabStop() || !control->Reachable() || !StandsForGroup(*control)) continue;
+    stops.push_back(control);
   }
   for (const Form* hosted : form.Tools().LoadedForms()) {
     if (hosted->Host() == &form) AppendTabStops(*hosted, stops);
@@ -67,11 +69,7 @@ std::vector<Control*> Form::TabOrder() const {
 }
 
 Control* Form::NextTabStop(const Control* from, bool backwards) const {
-  std::vector<Control*> stops = TabOrder();
-  if (stops.empty()) return nullptr;
-  if (backwards) std::reverse(stops.begin(), stops.end());
-  const auto at = std::find(stops.begin(), stops.end(), from);
-  return at == stops.end() || at + 1 == stops.end() ? stops.front() : *(at + 1);
+  return NextStop(TabOrder(), from, backwards);
 }
 
 void Form::EnsureInitialized() {
@@ -82,7 +80,12 @@ void Form::EnsureLoaded() {
   EnsureInitialized();
   // Initialize may have touched the window and so loaded it already.
   if (std::exchange(loaded_, true)) return;
-  peer_ = toolkit_.MakeWindow(*this);
+  try {
+    peer_ = toolkit_.MakeWindow(*this);
+  } catch (...) {
+    loaded_ = false;
+    throw;
+  }
   toolkit_.loadedForms_.push_back(this);
   Load();
 }

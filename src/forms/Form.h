@@ -61,7 +61,7 @@ class Form {
   // The control of the name ("cmdstart", "optBit(8)"), without regard to case, nullptr for none.
   Control* FindControl(const std::string& name) const;
   // The controls that Tab visits now, in its order: those of this window that the user can reach,
-  // then those of the windows hosted in it.
+  // of a group of options one, then those of the windows hosted in it.
   std::vector<Control*> TabOrder() const;
   // The next one behind (or before) `from`, round about; nullptr if Tab visits none.
   Control* NextTabStop(const Control* from, bool backwards = false) const;

@@ -42,11 +42,9 @@ void ListItem::AddSubItem(const std::string& key, const std::string& text) {
   list_.Changed(Aspect::Items);
 }
 
-ListView::ListView(Form& form, std::string name, const Design& design, ListViewDesign list)
-    : Control(form, std::move(name), design), list_(std::move(list)) {}
-
-ListView::ListView(Control& container, std::string name, const Design& design, ListViewDesign list)
-    : Control(container, std::move(name), design), list_(std::move(list)) {}
+ListView::ListView(const Parent& parent, std::string name, const Design& design,
+                   ListViewDesign list)
+    : Control(parent, std::move(name), design), list_(std::move(list)) {}
 
 void ListView::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 

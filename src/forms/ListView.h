@@ -70,8 +70,7 @@ struct ListViewDesign {
 
 class ListView : public Control {
  public:
-  ListView(Form& form, std::string name, const Design& design, ListViewDesign list);
-  ListView(Control& container, std::string name, const Design& design, ListViewDesign list);
+  ListView(const Parent& parent, std::string name, const Design& design, ListViewDesign list);
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 

@@ -29,7 +29,7 @@ void Toolkit::ThrowIfEnding() const {
 
 void Toolkit::AtBorder(const std::function<void()>& event) noexcept {
   if (ending_) return;
-  ++depth_;
+  const EventScope scope(*this);
   try {
     event();
   } catch (const EndProgram&) {
@@ -41,7 +41,6 @@ void Toolkit::AtBorder(const std::function<void()>& event) noexcept {
   } catch (const std::exception&) {
     Report(text::RuntimeError(text::ErrorNumber::InvalidProcedureCall));
   }
-  if (--depth_ == 0) EndOfBorder();
 }
 
 void Toolkit::Report(const text::RuntimeError& error) noexcept {

@@ -25,7 +25,8 @@ class Toolkit {
  public:
   virtual ~Toolkit();
 
-  // Makes the real window of a form and of all its controls, hidden.
+  // Makes the real window of a form and of all its controls, hidden. RuntimeError 7 if the system
+  // makes none.
   virtual std::unique_ptr<FormPeer> MakeWindow(Form& form) = 0;
 
   // How many twips a pixel of the screen is wide, e.g. 15 at 96 DPI.
@@ -77,6 +78,21 @@ class Toolkit {
   void Discard(std::unique_ptr<Form> form);
 
  protected:
+  // An event, or a message that raises several: what is discarded meanwhile goes when the outermost
+  // of them ends.
+  class EventScope {
+   public:
+    explicit EventScope(Toolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.depth_; }
+    ~EventScope() {
+      if (--toolkit_.depth_ == 0) toolkit_.EndOfBorder();
+    }
+    EventScope(const EventScope&) = delete;
+    EventScope& operator=(const EventScope&) = delete;
+
+   private:
+    Toolkit& toolkit_;
+  };
+
   virtual void PumpMessages() = 0;
   virtual void ScreenPointerChanged() {}
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <iterator>
+#include <string_view>
 
 #include "shell/Navigation.h"
 #include "shell/bmdlActivate.h"
@@ -61,6 +62,23 @@ constexpr Command Commands[] = {
     {"/ieplugins", CaseIEPlugins, true, CaseIEPlugins},
     {"/options", CaseSettings, true, CaseSettings},
 };
+
+// A command is looked up in lower case: a row with a capital would never be found.
+constexpr bool Findable(std::string_view text) {
+  const bool capitals =
+      std::any_of(text.begin(), text.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+  return text.starts_with('/') && !capitals;
+}
+
+constexpr bool EachFindableOnce() {
+  for (const Command& row : Commands) {
+    const auto same = [&row](const Command& c) { return std::string_view(c.text) == row.text; };
+    if (!Findable(row.text)) return false;
+    if (std::count_if(std::begin(Commands), std::end(Commands), same) != 1) return false;
+  }
+  return true;
+}
+static_assert(EachFindableOnce(), "a command has one row, in lower case behind a slash");
 
 const Command* FindCommand(const std::string& command) {
   const std::string wanted = text::LowerCase(command);

@@ -77,6 +77,19 @@ TEST_F(LinksTest, EachLinkStartsTheBrowserWithItsPage) {
   EXPECT_EQ(program.BoxCount(), 0U);
 }
 
+// A page with a scheme, and one without.
+TEST_F(LinksTest, TheBrowserIsToldToShowANormalWindow) {
+  RecordedBrowser browser;
+  Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  for (const char* link : {"FrmFrameMain.cmdtest", "FrmFrameMain.Label6"}) {
+    ClickControl(program, link);
+    const auto starts = browser.WaitForStarts();
+    ASSERT_EQ(starts.size(), 1U) << link;
+    EXPECT_EQ(starts[0].windowState, std::to_string(SW_SHOWNORMAL)) << link;
+  }
+}
+
 TEST_F(LinksTest, TheHelpToolOpensThePageAfterItsNavigation) {
   RecordedBrowser browser;
   Running program;
@@ -145,6 +158,23 @@ TEST_F(LinksTest, AFolderWithBlanksAndLettersOfAllKindsReachesTheBrowserAsOneArg
                                                   copy.Folder() + "\\help\\welcome.htm\""});
     EXPECT_EQ(Read(HKEY_LOCAL_MACHINE, EngineKey, "Path"), Text(copy.Folder() + "\\Settings"));
   }
+}
+
+// The root's folder ends in a backslash, which stands beside the literal's own.
+TEST_F(LinksTest, AProgramInADrivesRootOpensWhatLiesBesideIt) {
+  const ProgramCopy copy(ProgramCopy::InRoot);
+  const std::string root = copy.Folder() + "\\";
+  RecordedBrowser browser;
+  Running program("", copy.Executable());
+  ASSERT_TRUE(program.WaitUntilIdle());
+  EXPECT_EQ(Read(HKEY_LOCAL_MACHINE, EngineKey, "Path"), Text(root + "\\Settings"));
+  program.MouseClick("FrmFrameMain.Label6");
+  EXPECT_EQ(browser.WaitForLines(),
+            std::vector{RecordedBrowser::Program() + " \"" + root + "\\help\\welcome.htm\""});
+  WriteFileBytes(copy.LogFile(), "a line\r\n");
+  program.ChooseMenu("submnuLogFile");
+  EXPECT_EQ(browser.WaitForLines(),
+            std::vector{RecordedBrowser::Program() + " \"" + root + "/Settings/Log.txt\""});
 }
 
 TEST_F(LinksTest, TheLogFileOpensUnderItsOtherSpellingIfItIsThere) {

@@ -50,6 +50,8 @@ TEST_F(TrayTest, TheWelcomePanelAddsOneIconAfterDeletingAny) {
     EXPECT_EQ(call.flags, static_cast<UINT>(NIF_MESSAGE | NIF_ICON | NIF_TIP));
     EXPECT_EQ(call.callbackMessage, static_cast<UINT>(WM_MOUSEMOVE));
     EXPECT_EQ(call.tip, "Vantrel");
+    EXPECT_GT(call.icon.cx, 0);
+    EXPECT_GT(call.icon.cy, 0);
   }
 }
 

@@ -3,10 +3,11 @@
 
 Usage: check_help.py [FOLDER]     FOLDER is resources/help when not given
 
-Prints one line for each fault and a closing line; exit status 1 when there is any fault.
-Page names are compared letter for letter, since the program's texts are. The one target
-that the program spells differently from the file is listed as such and is compared the
-way Windows does.
+The places are the rows of tests/support/LinkTable.h whose target is a help page; the
+program is held against the same rows. Prints one line for each fault and a closing line;
+exit status 1 when there is any fault. Page names are compared letter for letter, since the
+program's texts are. The one target that the program spells differently from the file is
+listed here and is compared the way Windows does.
 """
 
 import collections
@@ -16,47 +17,14 @@ import sys
 from html.parser import HTMLParser
 from urllib.parse import unquote, urlsplit
 
-# Every page and anchor behind the help links of the windows.
-TARGETS = [
-    "welcome.htm",
-    "settings.htm#MinimizeOnStartup",
-    "Block Preferences.htm",
-    "Block Preferences.htm#BlockAllPopupAds",
-    "Block Preferences.htm#Pop-UpAds",
-    "Block Preferences.htm#AutomaticSpywareDownloads",
-    "Block Preferences.htm#WebPageDialogs",
-    "Block Preferences.htm#BannerAds",
-    "Block Preferences.htm#DHTMLFly-inAds",
-    "Block Preferences.htm#FlashAds",
-    "Block Preferences.htm#Adssecuresites",
-    "Block Preferences.htm#MessengerAds",
-    "settings.htm",
-    "settings.htm#Browsertoolbar",
-    "settings.htm#Hidetotray",
-    "settings.htm#StartwithWindows",
-    "settings.htm#KeepALog",
-    "settings.htm#Automaticupdates",
-    "ViewToolbar.htm",
-    "cleaning.htm",
-    "cleaning.htm#DeleteCache",
-    "cleaning.htm#Deletecookies",
-    "Allowedlist.htm",
-    "Notificationsettings.htm",
-    "Notificationsettings.htm#Displaynotification",
-    "Notification.htm#cursor",
-    "Notificationsettings.htm#Playsound",
-    "Notificationsettings.htm#DisplayholdersImage",
-    "Notificationsettings.htm#DisplayholdersFlash",
-    "Notificationsettings.htm#DontNotify",
-    "IE Settings.htm",
-    "IE Settings.htm#backup",
-    "IE Settings.htm#restore",
-    "IE Settings.htm#IEPluginsandBHO",
-    "Graph.htm#GraphicalDisplay",
-]
+TABLE = pathlib.Path(__file__).resolve().parents[1] / "support" / "LinkTable.h"
+
+# A row of the table that leads into the help folder: {"Window.control", "\\help\\PAGE", true}.
+HELP_ROW = re.compile(r'\{\s*"[^"]+",\s*"\\\\help\\\\([^"]+)",\s*true\s*\}')
+HELP_FOLDER = r'"\\help\\'
 
 # The program spells this one with a small g; on Windows it is Graph.htm all the same.
-TARGETS_IN_ANY_CASE = ["graph.htm#DetailedLog"]
+IN_ANY_CASE = ["graph.htm#DetailedLog"]
 
 VOID = {"area", "base", "br", "col", "hr", "img", "input", "link", "meta", "param"}
 
@@ -216,17 +184,33 @@ def check_sheet(folder, files):
         yield "style.css: imports another sheet"
 
 
-def check_program_targets(pages):
-    for target in TARGETS:
-        fault = check_target(pages, "", target)
-        if fault:
-            yield f"opened by the program: {fault}"
-    folded = {name.lower(): page for name, page in pages.items()}
-    for target in TARGETS_IN_ANY_CASE:
-        fault = check_target(folded, "", target.lower().partition("#")[0])
-        anchor = split_target(target)[1]
-        if not fault and anchor not in folded[split_target(target)[0].lower()].anchors:
-            fault = f"no anchor {anchor!r} in {target!r}"
+def read_targets(table):
+    """The pages and anchors that the table leads to, each once, and what is wrong with it."""
+    text = table.read_text("latin-1") if table.is_file() else ""
+    rows = HELP_ROW.findall(text)
+    faults = []
+    if not rows:
+        faults.append(f"{table}: no row leads to a help page")
+    if text.count(HELP_FOLDER) != len(rows):
+        faults.append(f"{table}: {text.count(HELP_FOLDER)} help pages, but {len(rows)} rows")
+    faults += [f"{table}: no row leads to {t!r}" for t in IN_ANY_CASE if t not in rows]
+    return list(dict.fromkeys(rows)), faults
+
+
+def check_target_in_any_case(pages, target):
+    name, anchor = split_target(target)
+    for own in pages:
+        if own.lower() == name.lower():
+            return check_target(pages, "", f"{own}#{anchor}")
+    return f"no page {name!r}, in whatever case"
+
+
+def check_program_targets(pages, targets):
+    for target in targets:
+        if target in IN_ANY_CASE:
+            fault = check_target_in_any_case(pages, target)
+        else:
+            fault = check_target(pages, "", target)
         if fault:
             yield f"opened by the program: {fault}"
 
@@ -255,10 +239,10 @@ def check_names(files):
             yield f"{name}: {count} files differ in case alone"
 
 
-def check_folder(folder):
+def check_folder(folder, targets):
     files = {str(p.relative_to(folder).as_posix()) for p in folder.rglob("*") if p.is_file()}
     pages = {name: read_page(folder / name) for name in sorted(files) if name.endswith(".htm")}
-    faults = list(check_names(files)) + list(check_program_targets(pages))
+    faults = list(check_names(files)) + list(check_program_targets(pages, targets))
     for own, page in pages.items():
         own_faults = page.faults + list(check_frame(page))
         own_faults += list(check_links(pages, files, own, page))
@@ -275,12 +259,13 @@ def main(arguments):
     if not folder.is_dir():
         print(f"{folder}: no such folder")
         return 1
-    pages, used, faults = check_folder(folder)
+    targets, faults = read_targets(TABLE)
+    pages, used, found = check_folder(folder, targets)
+    faults += found
     for fault in faults:
         print(fault)
-    targets = len(TARGETS) + len(TARGETS_IN_ANY_CASE)
     links = sum(len(page.links) for page in pages.values())
-    print(f"help: {len(pages)} pages, {targets} targets, {links} links, "
+    print(f"help: {len(pages)} pages, {len(targets)} targets, {links} links, "
           f"{len(used)} pictures, {len(faults)} faults")
     return 1 if faults else 0
 

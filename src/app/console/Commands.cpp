@@ -30,7 +30,7 @@ constexpr std::array Table{
     Command{"menu", "ENTRY", "chooses from the menu bar: menu \"File/Start Blocking\"", 1, 1,
             ChooseMenu},
     Command{"tool", "NUMBER | TIP", "presses a tool button", 1, 1, PressTool},
-    Command{"key", "tab | back | enter | escape", "presses a key", 1, 1, PressKey},
+    Command{"key", "tab | back | enter | space | escape", "presses a key", 1, 1, PressKey},
     Command{"size", "WIDTH HEIGHT [WINDOW]", "gives a window another size, in twips", 2, 3, Resize},
     Command{"window", "minimize | maximize | restore [WINDOW]", "changes a window's state", 1, 2,
             SetWindowState},

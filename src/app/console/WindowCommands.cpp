@@ -138,6 +138,7 @@ constexpr KeyRow Keys[] = {
     {"tab", [](forms::headless::User& hand) { return hand.Tab(); }},
     {"back", [](forms::headless::User& hand) { return hand.Tab(true); }},
     {"enter", [](forms::headless::User& hand) { return hand.Enter(); }},
+    {"space", [](forms::headless::User& hand) { return hand.Space(); }},
     {"escape", [](forms::headless::User& hand) { return hand.Escape(); }},
 };
 

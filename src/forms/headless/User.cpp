@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/Keys.h"
 #include "forms/UserControl.h"
 
 namespace vantrel::forms::headless {
@@ -13,15 +14,6 @@ bool Leads(const std::vector<Menu*>& menus, const Menu& entry) {
     if (!menu->Visible() || !menu->Enabled()) return false;
     return menu == &entry || Leads(menu->Entries(), entry);
   });
-}
-
-template <class Wanted>
-CommandButton* FindButton(const Form& form, Wanted wanted) {
-  for (Control* control : form.Controls()) {
-    auto* button = dynamic_cast<CommandButton*>(control);
-    if (button != nullptr && wanted(*button)) return button;
-  }
-  return nullptr;
 }
 
 }  // namespace
@@ -130,20 +122,40 @@ bool User::Tab(bool backwards) {
 bool User::Enter() {
   const Form* window = ActiveWindow();
   if (window == nullptr) return false;
-  if (auto* focused = dynamic_cast<CommandButton*>(toolkit_.Focus())) return Click(*focused);
-  CommandButton* button =
-      FindButton(*window, [](const CommandButton& each) { return each.IsDefault(); });
+  Control* focused = toolkit_.Focus();
+  if (KeepsEnter(focused)) return Follow(*focused);
+  if (auto* button = dynamic_cast<CommandButton*>(focused)) return Click(*button);
+  CommandButton* button = DefaultButton(*window);
   return button != nullptr && Click(*button);
+}
+
+bool User::Space() {
+  Control* focused = toolkit_.Focus();
+  if (focused == nullptr) return false;
+  if (auto* list = dynamic_cast<ListView*>(focused)) {
+    const int row = list->SelectedIndex();
+    return row > 0 && Check(*list, row, !list->Item(row).Checked());
+  }
+  const bool pressed = dynamic_cast<CommandButton*>(focused) != nullptr ||
+                       dynamic_cast<CheckBox*>(focused) != nullptr ||
+                       dynamic_cast<OptionButton*>(focused) != nullptr;
+  return pressed ? Click(*focused) : Follow(*focused);
+}
+
+// The key on a link, which is no press of the mouse.
+bool User::Follow(Control& link) {
+  auto* surface = dynamic_cast<UserControl*>(&link);
+  const bool isLink = surface != nullptr || dynamic_cast<Label*>(&link) != nullptr;
+  if (!isLink || !CanReach(link)) return false;
+  At([&] { surface != nullptr ? surface->KeyPressed() : link.UserClick(); });
+  return true;
 }
 
 bool User::Escape() {
   Form* window = ActiveWindow();
   if (window == nullptr) return false;
-  CommandButton* button =
-      FindButton(*window, [](const CommandButton& each) { return each.IsCancel(); });
-  if (button != nullptr) return Click(*button);
-  // A dialog without such a button closes as by its close box.
-  return window->Designed().Frame == Border::Dialog && Close(*window);
+  if (CommandButton* button = CancelButton(*window)) return Click(*button);
+  return ClosesOnEscape(*window) && Close(*window);
 }
 
 bool User::Close(Form& form) {

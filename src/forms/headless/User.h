@@ -42,15 +42,19 @@ class User {
 
   // Moves the focus on, or back, among the controls of the active window.
   bool Tab(bool backwards = false);
-  // Presses the active window's default button (or the button that has the focus), or its cancel
-  // button.
+  // Follows the link that has the focus, presses the button that has it, or else the active
+  // window's default button; false in a text box of several lines, which takes the key.
   bool Enter();
+  // Presses, ticks, chooses or follows what has the focus; of a list the selected row's mark.
+  bool Space();
+  // Presses the active window's cancel button; closes a dialog that has none.
   bool Escape();
   // Presses the close box.
   bool Close(Form& form);
 
  private:
   bool Focus(Control& control);
+  bool Follow(Control& link);
   Form* ActiveWindow() const;
   void At(const std::function<void()>& event) { toolkit_.AtBorder(event); }
 

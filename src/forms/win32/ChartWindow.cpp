@@ -60,8 +60,8 @@ void ChartWindow::Changed(Aspect aspect) {
 
 RECT ChartWindow::PlotArea(const RECT& area) const {
   const Scale& scale = System().Pixels;
-  return {area.left + scale.Grown(AxisRoom), area.top + scale.Grown(Margin + ValueRoom),
-          area.right - scale.Grown(Margin), area.bottom - scale.Grown(RowRoom)};
+  return {area.left + scale.Scaled(AxisRoom), area.top + scale.Scaled(Margin + ValueRoom),
+          area.right - scale.Scaled(Margin), area.bottom - scale.Scaled(RowRoom)};
 }
 
 void ChartWindow::PaintSurface(HDC context, const RECT& area) {
@@ -92,7 +92,7 @@ void ChartWindow::PaintGrid(HDC context, const RECT& plot, double step, double t
     if (value > 0)
       DrawLine(context, {plot.left, y}, {plot.right, y}, colors.Of(palette::HeadingTo));
     DrawTextIn(context, Whole(value),
-               {0, y - half, plot.left - System().Pixels.Grown(4), y + half + 1}, TextFont(),
+               {0, y - half, plot.left - System().Pixels.Scaled(4), y + half + 1}, TextFont(),
                colors.TextOn(palette::NoteText, palette::Window),
                DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
   }
@@ -112,7 +112,7 @@ void ChartWindow::PaintColumn(HDC context, const RECT& plot, std::size_t index, 
     RoundedFrame(context, bar, 0, colors.TextOn(palette::NoteText, palette::Window),
                  colors.Of(column.Fill));
   }
-  const int room = System().Pixels.Grown(ValueRoom);
+  const int room = System().Pixels.Scaled(ValueRoom);
   DrawTextIn(context, Whole(value), {left, bar.top - room, right, bar.top}, TextFont(),
              colors.TextOn(palette::WindowText, palette::Window),
              DT_CENTER | DT_VCENTER | DT_SINGLELINE);

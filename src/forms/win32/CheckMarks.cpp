@@ -22,17 +22,17 @@ void DrawBox(HDC context, const RECT& picture, const WindowSystem& system, bool 
   const Colors& colors = system.Palette;
   FillArea(context, picture, colors.Of(palette::Window));
   RECT box = picture;
-  const int inset = system.Pixels.Grown(BoxInset);
+  const int inset = system.Pixels.Scaled(BoxInset);
   InflateRect(&box, -inset, -inset);
   const COLORREF ink = colors.TextOn(palette::FrameText, palette::Window);
   RoundedFrame(context, box, 0, ink, colors.Of(palette::Window));
-  if (ticked) DrawTick(context, box, system.Pixels.Grown(2), ink);
+  if (ticked) DrawTick(context, box, system.Pixels.Scaled(2), ink);
 }
 
 }  // namespace
 
 ImagesHandle MakeCheckMarks(const WindowSystem& system) {
-  const int size = system.Pixels.Grown(PictureSize);
+  const int size = system.Pixels.Scaled(PictureSize);
   ImagesHandle marks(ImageList_Create(size, size, ILC_COLOR24, 2, 0));
   const WindowContext screen(nullptr);
   for (const bool ticked : {false, true}) {

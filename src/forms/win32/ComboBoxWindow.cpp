@@ -31,7 +31,7 @@ void ComboBoxWindow::Fit() {
   const RECT area = System().Pixels.Rectangle(box_.At());
   const int row = static_cast<int>(SendMessageA(Handle(), CB_GETITEMHEIGHT, 0, 0));
   Tell(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1),
-       HeightOf(area) - System().Pixels.Grown(FieldMargin));
+       HeightOf(area) - System().Pixels.Scaled(FieldMargin));
   SetWindowPos(Handle(), nullptr, area.left, area.top, WidthOf(area),
                HeightOf(area) + row * RowsDropped + 2, SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -85,13 +85,6 @@ LRESULT ComboBoxWindow::OnCommand(WPARAM first, LPARAM) {
       break;
   }
   return 0;
-}
-
-HBRUSH ComboBoxWindow::OnColor(HDC context) {
-  const Color ground = InputGround();
-  SetTextColor(context, System().Palette.TextOn(box_.ForeColor(), ground));
-  SetBkColor(context, System().Palette.Of(ground));
-  return System().Palette.BrushOf(ground);
 }
 
 LRESULT ComboBoxWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {

@@ -13,7 +13,7 @@ class ComboBoxWindow final : public ControlWindow {
   void Changed(Aspect aspect) override;
   void PaintSurface(HDC, const RECT&) override {}
   LRESULT OnCommand(WPARAM first, LPARAM second) override;
-  HBRUSH OnColor(HDC context) override;
+  HBRUSH OnColor(HDC context) override { return OnInputColor(context); }
 
  protected:
   WindowShape Shape() const override;

@@ -4,6 +4,7 @@
 
 #include "forms/Form.h"
 #include "forms/win32/FormWindow.h"
+#include "forms/win32/HandleOf.h"
 #include "forms/win32/Painting.h"
 #include "forms/win32/SpokenObject.h"
 
@@ -103,7 +104,7 @@ void ControlWindow::Changed(Aspect aspect) {
       Tell(WM_SETFONT, reinterpret_cast<WPARAM>(TextFont()), TRUE);
       return Invalidate();
     case Aspect::Pointer:
-      return;
+      return System().RefreshPointer();
     default:
       return Invalidate();
   }
@@ -137,7 +138,7 @@ void ControlWindow::GiveFocusAway() {
   const HWND root = GetAncestor(Handle(), GA_ROOT);
   const auto form = System().FindForm(root);
   Control* next = form != nullptr ? form->NextStop(&control_, false) : nullptr;
-  const auto handle = next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle()) : nullptr;
+  const auto handle = next != nullptr ? HandleOf(*next) : nullptr;
   ::SetFocus(handle != nullptr && handle != Handle() ? handle : root);
 }
 
@@ -156,6 +157,14 @@ Color ControlWindow::InputGround() const {
   return control_.BackColor() == palette::PanelBack ? palette::Window : control_.BackColor();
 }
 
+HBRUSH ControlWindow::OnInputColor(HDC context) {
+  const Color ground = InputGround();
+  const Color text = control_.Enabled() ? control_.ForeColor() : palette::GrayText;
+  SetTextColor(context, System().Palette.TextOn(text, ground));
+  SetBkColor(context, System().Palette.Of(ground));
+  return System().Palette.BrushOf(ground);
+}
+
 HBRUSH ControlWindow::OnColor(HDC context) {
   const Color ground = GroundColor();
   SetTextColor(context, System().Palette.TextOn(control_.ForeColor(), ground));
@@ -167,6 +176,25 @@ bool ControlWindow::HasMouse(LPARAM position) const {
   const RECT area = ClientArea(Handle());
   return PtInRect(&area, {static_cast<short>(LOWORD(position)),
                           static_cast<short>(HIWORD(position))}) != FALSE;
+}
+
+bool ControlWindow::CompletesClick(UINT message, LPARAM position, bool takesFocus) {
+  if (!Alive()) return false;
+  if (message != WM_LBUTTONUP) {
+    if (takesFocus) ::SetFocus(Handle());
+    if (!Alive()) return false;
+    SetCapture(Handle());
+    pressed_ = true;
+    return false;
+  }
+  if (!std::exchange(pressed_, false)) return false;
+  ReleaseCapture();
+  return Alive() && HasMouse(position);
+}
+
+// The move of the focus may have brought a box up, and the button was let go there.
+void ControlWindow::EndPressUnlessHeld(WPARAM keys) {
+  if (pressed_ && (keys & MK_LBUTTON) == 0) ReleaseCapture();
 }
 
 void ControlWindow::RaiseMouse(UINT message, WPARAM keys, LPARAM position) {
@@ -206,7 +234,10 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       if (LOWORD(second) == HTCLIENT && System().ShowPointer(Pointer())) return TRUE;
       break;
     case WM_SETFOCUS:
-      if (control_.IsTabStop()) TakesFocusFromModel();
+      if (control_.IsTabStop() && !TakesFocusFromModel()) return 0;
+      break;
+    case WM_CAPTURECHANGED:
+      pressed_ = false;
       break;
     case WM_GETOBJECT:
       // The object's number has 32 bits, whatever the width of the parameter.
@@ -215,8 +246,12 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
         if (const LRESULT answer = AnswerSpokenObject(self, first); answer != 0) return answer;
       }
       break;
+    case WM_MOUSEMOVE:
+      EndPressUnlessHeld(first);
+      if (!tipped_) ShowTip();
+      RaiseMouse(message, first, second);
+      break;
     default:
-      if (message == WM_MOUSEMOVE && !tipped_) ShowTip();
       if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) {
         RaiseMouse(message, first, second);
       }
@@ -226,15 +261,14 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
 }
 
 void ControlWindow::DrawHouseBorder() {
-  const HDC context = GetWindowDC(Handle());
+  const WindowContext context(Handle(), Extent::WithFrame);
   RECT area{};
   GetWindowRect(Handle(), &area);
   OffsetRect(&area, -area.left, -area.top);
   // An empty list has nothing else to show that it has the focus.
   const bool focused = GetFocus() == Handle();
   const Color line = focused ? palette::Highlight : palette::FrameLine;
-  FrameRect(context, &area, System().Palette.BrushOf(line));
-  ReleaseDC(Handle(), context);
+  FrameRect(context.Get(), &area, System().Palette.BrushOf(line));
 }
 
 }  // namespace vantrel::forms::win32

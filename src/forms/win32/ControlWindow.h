@@ -50,10 +50,15 @@ class ControlWindow : public Window {
   // Sends a message that the window handles as the control's own work, not as one from outside.
   LRESULT Tell(UINT message, WPARAM first = 0, LPARAM second = 0);
   bool IsTelling() const { return telling_ > 0; }
-  // The ground for text that is typed or listed.
+  // The ground for text that is typed or listed, and the answer to OnColor there.
   Color InputGround() const;
+  HBRUSH OnInputColor(HDC context);
   void DrawHouseBorder();
   bool HasMouse(LPARAM position) const;
+  // Follows the left button over a control that Windows knows no clicks of, by its messages: true
+  // when it is let go over the control that it was pressed on.
+  bool CompletesClick(UINT message, LPARAM position, bool takesFocus);
+  void EndPressUnlessHeld(WPARAM keys);
 
  private:
   RECT Area() const;
@@ -66,6 +71,7 @@ class ControlWindow : public Window {
 
   Control& control_;
   int telling_ = 0;
+  bool pressed_ = false;
   bool tipped_ = false;  // the mouse has been here: the tip is kept up to date
 };
 

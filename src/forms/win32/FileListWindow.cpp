@@ -33,17 +33,4 @@ LRESULT FileListWindow::OnCommand(WPARAM first, LPARAM) {
   return 0;
 }
 
-HBRUSH FileListWindow::OnColor(HDC context) {
-  const Color ground = InputGround();
-  SetTextColor(context, System().Palette.TextOn(list_.ForeColor(), ground));
-  SetBkColor(context, System().Palette.Of(ground));
-  return System().Palette.BrushOf(ground);
-}
-
-LRESULT FileListWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
-  const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-  if (message == WM_NCPAINT && Alive()) DrawHouseBorder();
-  return answer;
-}
-
 }  // namespace vantrel::forms::win32

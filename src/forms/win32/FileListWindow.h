@@ -14,12 +14,10 @@ class FileListWindow final : public ControlWindow {
   void Changed(Aspect aspect) override;
   void PaintSurface(HDC, const RECT&) override {}
   LRESULT OnCommand(WPARAM first, LPARAM second) override;
-  HBRUSH OnColor(HDC context) override;
 
  protected:
   WindowShape Shape() const override;
   void Prepare() override { Changed(Aspect::Items); }
-  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:
   void Fill();

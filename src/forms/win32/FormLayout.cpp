@@ -2,12 +2,11 @@
 
 #include "forms/Bars.h"
 #include "forms/Controls.h"
+#include "forms/win32/HandleOf.h"
 #include "forms/win32/Painting.h"
 
 namespace vantrel::forms::win32 {
 namespace {
-
-HWND HandleOf(const Control& control) { return reinterpret_cast<HWND>(control.WindowHandle()); }
 
 void Put(const Control& control, const RECT& area) {
   SetWindowPos(HandleOf(control), nullptr, area.left, area.top, WidthOf(area), HeightOf(area),

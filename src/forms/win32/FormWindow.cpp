@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "forms/Controls.h"
+#include "forms/Keys.h"
 #include "forms/UserControl.h"
 #include "forms/win32/AwaitedPeer.h"
 #include "forms/win32/FormLayout.h"
+#include "forms/win32/HandleOf.h"
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Painting.h"
 #include "forms/win32/SystemRoutine.h"
@@ -86,7 +88,7 @@ MouseState MouseStateOf(WPARAM keys, LPARAM position, double twipsPerPixel) {
 
 HWND FormWindow::DialogOwner() const {
   for (const Form* form : System().LoadedForms()) {
-    if (form->Designed().Frame == Border::Sizable) return reinterpret_cast<HWND>(form->hWnd());
+    if (form->Designed().Frame == Border::Sizable) return HandleOf(*form);
   }
   return nullptr;
 }
@@ -114,6 +116,7 @@ WindowShape FormWindow::Shape() const {
 
 void FormWindow::CreateHidden() {
   Create(Shape(), form_.Name());
+  if (!Alive()) throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
   tips_.SetOwner(Handle());
   if (IsMain()) LetIn(Handle(), System().TaskbarCreatedMessage);
   AwaitControls();
@@ -250,7 +253,7 @@ void FormWindow::PopupMenu(Menu& menu) {
 void FormWindow::RunModal() {
   modal_ = true;
   for (const Form* other : System().LoadedForms()) {
-    const auto window = reinterpret_cast<HWND>(other->hWnd());
+    const auto window = HandleOf(*other);
     if (other == &form_ || GetAncestor(window, GA_ROOT) != window || !IsWindowEnabled(window)) {
       continue;
     }
@@ -309,7 +312,7 @@ void FormWindow::RestoreFocus() {
   if (dynamic_cast<const Label*>(first) != nullptr && !IsMain()) {
     if (const Control* answer = DefaultButton(form_)) first = answer;
   }
-  if (first != nullptr) ::SetFocus(reinterpret_cast<HWND>(first->WindowHandle()));
+  if (first != nullptr) ::SetFocus(HandleOf(*first));
 }
 
 // A panel that goes with the focus in it hands it to the window around it.
@@ -318,7 +321,7 @@ void FormWindow::LeaveFocus() {
   const HWND root = GetAncestor(Handle(), GA_ROOT);
   const auto around = System().FindForm(root);
   const Control* next = around != nullptr ? around->NextStop(nullptr, false) : nullptr;
-  ::SetFocus(next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle()) : root);
+  ::SetFocus(next != nullptr ? HandleOf(*next) : root);
 }
 
 void FormWindow::SchemeChanged(UINT message) {
@@ -401,7 +404,7 @@ bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
       const bool isHandle = LOWORD(second) != 0;
       const Control* next = isHandle ? nullptr : NextStop(System().Focus(), first != 0);
       const auto window = isHandle          ? reinterpret_cast<HWND>(first)
-                          : next != nullptr ? reinterpret_cast<HWND>(next->WindowHandle())
+                          : next != nullptr ? HandleOf(*next)
                                             : Handle();
       ::SetFocus(window);
       return true;

@@ -41,7 +41,7 @@ LRESULT ContainerWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
 void FrameWindow::PaintSurface(HDC context, const RECT& area) {
   PaintBehind(context);
   const Colors& colors = System().Palette;
-  const int radius = System().Pixels.Grown(CornerRadius);
+  const int radius = System().Pixels.Scaled(CornerRadius);
   if (IsCard()) {
     RoundedFrame(context, area, radius, colors.Of(palette::FrameLine), colors.Of(palette::Card));
     return;
@@ -58,8 +58,8 @@ void FrameWindow::PaintSurface(HDC context, const RECT& area) {
 
 // Whether all that the context shows lies within the line and under the caption.
 bool FrameWindow::IsInsideLine(HDC context, const RECT& area) const {
-  const int radius = System().Pixels.Grown(CornerRadius);
-  const RECT inside{area.left + radius, area.top + System().Pixels.Grown(CaptionHeight),
+  const int radius = System().Pixels.Scaled(CornerRadius);
+  const RECT inside{area.left + radius, area.top + System().Pixels.Scaled(CaptionHeight),
                     area.right - radius, area.bottom - radius};
   RECT shown{};
   RECT common{};
@@ -73,8 +73,8 @@ void FrameWindow::PaintCaption(HDC context, const RECT& area, int height) const 
   const std::string caption = text::Trim(frame_.Caption());
   if (caption.empty()) return;
   const Scale& scale = System().Pixels;
-  const int margin = scale.Grown(CaptionMargin);
-  RECT text{area.left + scale.Grown(CaptionIndent) + margin, area.top, 0, area.top + height};
+  const int margin = scale.Scaled(CaptionMargin);
+  RECT text{area.left + scale.Scaled(CaptionIndent) + margin, area.top, 0, area.top + height};
   text.right = text.left + MeasureText(caption, TextFont(), 0, DT_SINGLELINE).cx;
   RECT gap = text;
   gap.right = text.left + DrawnWidth(caption, TextFont());

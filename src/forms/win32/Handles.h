@@ -53,10 +53,14 @@ using Region = Owned<HRGN, DeleteGdiObject>;
 using MemoryContext = Owned<HDC, DeleteContext>;
 using MenuHandle = Owned<HMENU, DestroyMenuHandle>;
 
-// The drawing context of a window, or of the whole screen for nullptr.
+// The drawing context of a window's inside, or of the window with its frame; of the whole screen
+// for nullptr.
+enum class Extent { Inside, WithFrame };
+
 class WindowContext {
  public:
-  explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {}
+  explicit WindowContext(HWND window, Extent extent = Extent::Inside)
+      : window_(window), context_(extent == Extent::Inside ? GetDC(window) : GetWindowDC(window)) {}
   WindowContext(const WindowContext&) = delete;
   WindowContext& operator=(const WindowContext&) = delete;
   ~WindowContext() { ReleaseDC(window_, context_); }

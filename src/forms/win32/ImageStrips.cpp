@@ -63,7 +63,7 @@ const ImageStrip* ImageStrips::Find(const std::string& list) const {
 SIZE ImageStrips::SizeOf(const std::string& list) const {
   const ImageStrip* row = Find(list);
   if (row == nullptr) return {0, 0};
-  return {scale_.Grown(row->Width), scale_.Grown(row->Height)};
+  return {scale_.Scaled(row->Width), scale_.Scaled(row->Height)};
 }
 
 int ImageStrips::ScaleIndex() const {
@@ -114,6 +114,7 @@ HIMAGELIST ImageStrips::ImagesFor(const std::string& list) {
   for (int number = 1; number <= row->Count; ++number) {
     std::uint32_t* bits = nullptr;
     const Bitmap picture = MakePixels(size.cx, size.cy, &bits);
+    if (bits == nullptr) break;
     {
       const MemoryContext target(CreateCompatibleDC(nullptr));
       const Selection withPicture(target.Get(), picture.Get());

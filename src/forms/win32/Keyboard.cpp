@@ -7,14 +7,13 @@
 #include "forms/Bars.h"
 #include "forms/ComboBox.h"
 #include "forms/Controls.h"
-#include "forms/UserControl.h"
+#include "forms/Keys.h"
 #include "forms/win32/FormWindow.h"
+#include "forms/win32/HandleOf.h"
 #include "text/Strings.h"
 
 namespace vantrel::forms::win32 {
 namespace {
-
-HWND HandleOf(const Control& control) { return reinterpret_cast<HWND>(control.WindowHandle()); }
 
 // What a key is pressed in.
 struct KeyPlace {
@@ -42,39 +41,18 @@ void MoveTo(const KeyPlace& place, Control* to) {
   if (dynamic_cast<TextBox*>(to) != nullptr) SendMessageA(HandleOf(*to), EM_SETSEL, 0, -1);
 }
 
-// The form's button of the kind, whether or not it can be pressed now.
-const CommandButton* ButtonWhich(const Form& form, bool (CommandButton::*is)() const) {
-  for (const Control* control : form.Controls()) {
-    const auto* button = dynamic_cast<const CommandButton*>(control);
-    if (button != nullptr && (button->*is)()) return button;
-  }
-  return nullptr;
-}
-
-template <class Kind>
-Kind* FindButton(const FormWindow& root, bool (Kind::*is)() const) {
-  std::vector<const Form*> forms{&root.Model()};
-  if (const auto panel = root.TopPanel()) forms.insert(forms.begin(), &panel->Model());
-  for (const Form* form : forms) {
-    for (Control* control : form->Controls()) {
-      auto* button = dynamic_cast<Kind*>(control);
-      if (button != nullptr && (button->*is)() && button->Reachable()) return button;
-    }
-  }
-  return nullptr;
+// The top panel's button, or the window's own, if it can be pressed now.
+CommandButton* FindButton(const FormWindow& root, CommandButton* (*of)(const Form&)) {
+  const auto panel = root.TopPanel();
+  CommandButton* button = panel ? of(panel->Model()) : nullptr;
+  if (button == nullptr || !button->Reachable()) button = of(root.Model());
+  return button != nullptr && button->Reachable() ? button : nullptr;
 }
 
 bool Press(const KeyPlace& place, Control* control) {
   if (control == nullptr) return false;
   place.System.Raise([control] { control->UserClick(); });
   return true;
-}
-
-bool TakesEnter(const Control* focused) {
-  const auto* box = dynamic_cast<const TextBox*>(focused);
-  return (box != nullptr && box->MultiLine() && !box->ReadOnly()) ||
-         dynamic_cast<const UserControl*>(focused) != nullptr ||
-         dynamic_cast<const Label*>(focused) != nullptr;
 }
 
 bool IsDropped(const Control* focused) {
@@ -91,19 +69,15 @@ bool TabKey(const KeyPlace& place) {
 }
 
 bool EnterKey(const KeyPlace& place) {
-  if (TakesEnter(place.Focused) || IsDropped(place.Focused)) return false;
+  if (KeepsEnter(place.Focused) || IsDropped(place.Focused)) return false;
   if (auto* button = dynamic_cast<CommandButton*>(place.Focused)) return Press(place, button);
-  return Press(place, FindButton<CommandButton>(place.Root, &CommandButton::IsDefault));
+  return Press(place, FindButton(place.Root, DefaultButton));
 }
 
 bool EscapeKey(const KeyPlace& place) {
   if (IsDropped(place.Focused)) return false;
-  if (Press(place, FindButton<CommandButton>(place.Root, &CommandButton::IsCancel))) return true;
-  // A dialog without such a button closes as by its close box.
-  const Form& form = place.Root.Model();
-  if (form.Designed().Frame != Border::Dialog ||
-      ButtonWhich(form, &CommandButton::IsCancel) != nullptr)
-    return false;
+  if (Press(place, FindButton(place.Root, CancelButton))) return true;
+  if (!ClosesOnEscape(place.Root.Model())) return false;
   PostMessageA(place.Root.Handle(), WM_CLOSE, 0, 0);
   return true;
 }
@@ -192,10 +166,6 @@ char AccessKeyOf(const std::string& caption) {
     if (caption[at + 1] != '&') return text::LowerCase(caption.substr(at + 1, 1)).front();
   }
   return '\0';
-}
-
-const Control* DefaultButton(const Form& form) {
-  return ButtonWhich(form, &CommandButton::IsDefault);
 }
 
 LRESULT DefaultButtonAnswer(const Form& form) {

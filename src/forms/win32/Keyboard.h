@@ -15,8 +15,6 @@ namespace vantrel::forms::win32 {
 // take its way.
 bool HandleKey(WindowSystem& system, const MSG& message);
 
-// The button that Enter presses, nullptr for none.
-const Control* DefaultButton(const Form& form);
 // The answer to DM_GETDEFID: the form's default button.
 LRESULT DefaultButtonAnswer(const Form& form);
 

@@ -105,7 +105,7 @@ void LabelWindow::PaintSurface(HDC context, const RECT& area) {
   PaintGround(context, area);
   const LookStyle& style = StyleOf(label_);
   RECT text = area;
-  text.left += System().Pixels.Grown(style.Indent);
+  text.left += System().Pixels.Scaled(style.Indent);
   const UINT flags =
       IsBar(style) ? DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS : DT_WORDBREAK | DT_EXPANDTABS;
   DrawTextIn(context, label_.Caption(), text, TextFont(), TextColor(),
@@ -131,20 +131,6 @@ void LabelWindow::Hover() {
   Invalidate();
 }
 
-void LabelWindow::Press(bool down, LPARAM position) {
-  if (down) {
-    pressed_ = true;
-    if (IsLink()) ::SetFocus(Handle());
-    if (Alive()) SetCapture(Handle());
-    return;
-  }
-  if (!pressed_) return;
-  pressed_ = false;
-  const bool inside = HasMouse(position);
-  ReleaseCapture();
-  if (inside && Alive()) Raise([this] { label_.UserClick(); });
-}
-
 LRESULT LabelWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_MOUSEMOVE:
@@ -158,7 +144,7 @@ LRESULT LabelWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP: {
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (Alive()) Press(message != WM_LBUTTONUP, second);
+      if (CompletesClick(message, second, IsLink())) Raise([this] { label_.UserClick(); });
       return answer;
     }
     case WM_KEYDOWN:

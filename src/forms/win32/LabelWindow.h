@@ -33,11 +33,9 @@ class LabelWindow : public ControlWindow {
   COLORREF TextColor() const;
   void Fit() { FitToText(label_, TextFont(), System().Pixels); }
   void Hover();
-  void Press(bool down, LPARAM position);
 
   Label& label_;
   bool hovered_ = false;
-  bool pressed_ = false;
 };
 
 }  // namespace vantrel::forms::win32

@@ -1,6 +1,7 @@
 #include "forms/win32/ListViewWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/win32/CheckMarks.h"
 #include "forms/win32/Painting.h"
@@ -46,11 +47,7 @@ void ListViewWindow::Prepare() {
     const HIMAGELIST icons = System().Images.ImagesFor(list_.SmallIcons()->QualifiedName());
     Tell(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons));
   }
-  if (list_.CheckBoxes()) {
-    checkMarks_ = MakeCheckMarks(System());
-    Tell(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(checkMarks_.Get()));
-    Tell(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
-  }
+  if (list_.CheckBoxes()) Tell(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
   AddColumns();
   FillWidth();
   ShowColors();
@@ -88,6 +85,11 @@ void ListViewWindow::ShowColors() {
   Tell(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(colors.Of(ground)));
   Tell(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(colors.Of(ground)));
   Tell(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.TextOn(list_.ForeColor(), ground)));
+  if (list_.CheckBoxes()) {
+    ImagesHandle marks = MakeCheckMarks(System());
+    Tell(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(marks.Get()));
+    checkMarks_ = std::move(marks);
+  }
   Invalidate();
 }
 
@@ -106,7 +108,7 @@ LRESULT ListViewWindow::DrawHeader(const NMCUSTOMDRAW& draw) const {
   DrawLine(draw.hdc, {area.left, area.bottom - 1}, {area.right, area.bottom - 1}, ink);
   DrawLine(draw.hdc, {area.right - 1, area.top}, {area.right - 1, area.bottom}, ink);
   const Column& model = list_.Columns()[column];
-  const int margin = System().Pixels.Grown(HeaderMargin);
+  const int margin = System().Pixels.Scaled(HeaderMargin);
   const RECT text{area.left + margin, area.top, area.right - margin, area.bottom};
   DrawTextIn(
       draw.hdc, model.Header, text, TextFont(), ink,
@@ -159,8 +161,8 @@ void ListViewWindow::ShowSelection() {
   LVITEMA item{};
   item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
   item.state = item.stateMask;
-  ControlWindow::Tell(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-  ControlWindow::Tell(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  Tell(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  Tell(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
 std::string ListViewWindow::TextAt(int row, int column) const {
@@ -189,7 +191,7 @@ std::string ListViewWindow::RowAsShown(int row) const {
   return shown;
 }
 
-void ListViewWindow::Tell(LVITEMA& wanted) {
+void ListViewWindow::FillItem(LVITEMA& wanted) {
   const int row = wanted.iItem;
   if (shown_.size() >= MostRowsKept) shown_.clear();
   shown_[row] = RowAsShown(row);
@@ -205,7 +207,7 @@ void ListViewWindow::Tell(LVITEMA& wanted) {
 LRESULT ListViewWindow::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_GETDISPINFOA:
-      Tell(reinterpret_cast<NMLVDISPINFOA&>(header).item);
+      FillItem(reinterpret_cast<NMLVDISPINFOA&>(header).item);
       return 0;
     case LVN_ITEMCHANGED:
       SelectionMoved(reinterpret_cast<const NMLISTVIEW&>(header));
@@ -275,17 +277,40 @@ bool ListViewWindow::AssignState(int row, const LVITEMA& item) {
   return true;
 }
 
+// Space sets the check mark; the list would look for a row of that letter.
+bool ListViewWindow::TakesKey(UINT message, WPARAM key) {
+  if (key != VK_SPACE || !list_.CheckBoxes()) return false;
+  if (message == WM_KEYDOWN) Toggle(list_.SelectedIndex() - 1);
+  return true;
+}
+
+bool ListViewWindow::IsHeadersDraw(const NMHDR* header) {
+  return header != nullptr && header->code == NM_CUSTOMDRAW && System().Palette.Contrast() &&
+         header->hwndFrom == reinterpret_cast<HWND>(Tell(LVM_GETHEADER));
+}
+
+// What follows the list's own reaction to a message.
+void ListViewWindow::Follow(UINT message) {
+  switch (message) {
+    case WM_SIZE:
+      return FillWidth();
+    case WM_SYSCOLORCHANGE:
+      return ShowColors();
+    case WM_NCPAINT:
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      return DrawHouseBorder();
+    default:
+      return;
+  }
+}
+
 LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   if (gathering_ && !IsTelling() && LooksAtRows(message)) ShowRows();
   switch (message) {
     case ShowGathered:
       if (gathering_) ShowRows();
       return 0;
-    case WM_SIZE: {
-      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (Alive()) FillWidth();
-      return answer;
-    }
     case LVM_SETITEMSTATE:
       if (!IsTelling() && second != 0 &&
           AssignState(static_cast<int>(first), *reinterpret_cast<const LVITEMA*>(second))) {
@@ -293,38 +318,20 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       }
       break;
     case WM_KEYDOWN:
-      if (first == VK_SPACE && list_.CheckBoxes()) {
-        Toggle(list_.SelectedIndex() - 1);
-        return 0;
-      }
-      break;
     case WM_CHAR:
-      if (first == VK_SPACE && list_.CheckBoxes()) return 0;
+      if (TakesKey(message, first)) return 0;
       break;
-    case WM_NOTIFY: {
-      const auto* header = reinterpret_cast<const NMHDR*>(second);
-      if (header != nullptr && header->code == NM_CUSTOMDRAW && System().Palette.Contrast() &&
-          header->hwndFrom == reinterpret_cast<HWND>(Tell(LVM_GETHEADER))) {
-        return DrawHeader(reinterpret_cast<const NMCUSTOMDRAW&>(*header));
+    case WM_NOTIFY:
+      if (IsHeadersDraw(reinterpret_cast<const NMHDR*>(second))) {
+        return DrawHeader(*reinterpret_cast<const NMCUSTOMDRAW*>(second));
       }
       break;
-    }
-    case WM_SYSCOLORCHANGE: {
-      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (Alive()) ShowColors();
-      return answer;
-    }
-    case WM_NCPAINT:
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS: {
-      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (Alive()) DrawHouseBorder();
-      return answer;
-    }
     default:
       break;
   }
-  return ControlWindow::OnMessage(message, first, second);
+  const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+  if (Alive()) Follow(message);
+  return answer;
 }
 
 }  // namespace vantrel::forms::win32

@@ -38,14 +38,16 @@ class ListViewWindow final : public ControlWindow {
   std::string RowAsShown(int row) const;
   std::string TextAt(int row, int column) const;
   int ImageAt(int row) const;
-  void Tell(LVITEMA& wanted);
+  void FillItem(LVITEMA& wanted);
   void SelectionMoved(const NMLISTVIEW& change);
   void Clicked(const NMITEMACTIVATE& click);
   LRESULT Draw(NMLVCUSTOMDRAW& draw) const;
   LRESULT DrawHeader(const NMCUSTOMDRAW& draw) const;
   bool AssignState(int row, const LVITEMA& item);
   void Toggle(int row);
-  using ControlWindow::Tell;
+  bool TakesKey(UINT message, WPARAM key);
+  bool IsHeadersDraw(const NMHDR* header);
+  void Follow(UINT message);
 
   ListView& list_;
   ImagesHandle checkMarks_;

@@ -17,7 +17,8 @@ std::unique_ptr<PaintSheet> NewSheet(HDC screen, SIZE size) {
   auto sheet = std::make_unique<PaintSheet>();
   sheet->Picture = Bitmap(CreateCompatibleBitmap(screen, size.cx, size.cy));
   sheet->Context = MemoryContext(CreateCompatibleDC(screen));
-  sheet->Size = size;
+  // Without a picture it is of no size, and the next paint tries anew.
+  if (sheet->Picture) sheet->Size = size;
   SelectObject(sheet->Context.Get(), sheet->Picture.Get());
   return sheet;
 }

@@ -23,7 +23,7 @@ class Scale {
   int Twips(int pixels) const { return MulDiv(pixels, TwipsPerInch, dpi_); }
   double TwipsPerPixel() const { return static_cast<double>(TwipsPerInch) / dpi_; }
   // A length given in pixels at 96 dots per inch.
-  int Grown(int pixels) const { return MulDiv(pixels, dpi_, DesignDpi); }
+  int Scaled(int pixels) const { return MulDiv(pixels, dpi_, DesignDpi); }
 
   RECT Rectangle(const Place& place) const {
     return {Pixels(place.Left), Pixels(place.Top), Pixels(place.Left + place.Width),

@@ -2,6 +2,7 @@
 
 #include <oleacc.h>
 
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -26,9 +27,17 @@ BSTR NewText(const std::string& text) {
   return made;
 }
 
-HRESULT Answer(const std::string& text, BSTR* answer) {
+// The caller is another process, which takes no exception.
+template <class Text>
+HRESULT Answer(BSTR* answer, Text text) noexcept {
   if (answer == nullptr) return E_POINTER;
-  *answer = text.empty() ? nullptr : NewText(text);
+  *answer = nullptr;
+  try {
+    const std::string told = text();
+    if (!told.empty()) *answer = NewText(told);
+  } catch (const std::exception&) {
+    return E_OUTOFMEMORY;
+  }
   return *answer != nullptr ? S_OK : S_FALSE;
 }
 
@@ -66,13 +75,13 @@ class SpokenObject final : public IAccessible {
 
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
     Control* control = IsSelf(child) ? Model() : nullptr;
-    return control != nullptr ? Answer(SpokenName(*control), name)
-                              : ofSystem_->get_accName(child, name);
+    if (control == nullptr) return ofSystem_->get_accName(child, name);
+    return Answer(name, [control] { return SpokenName(*control); });
   }
   STDMETHODIMP get_accDescription(VARIANT child, BSTR* text) override {
     Control* control = IsSelf(child) ? Model() : nullptr;
-    return control != nullptr ? Answer(SpokenDescription(*control), text)
-                              : ofSystem_->get_accDescription(child, text);
+    if (control == nullptr) return ofSystem_->get_accDescription(child, text);
+    return Answer(text, [control] { return SpokenDescription(*control); });
   }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
     if (!IsLink(child)) return ofSystem_->get_accRole(child, role);
@@ -82,7 +91,8 @@ class SpokenObject final : public IAccessible {
     return S_OK;
   }
   STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
-    return IsLink(child) ? Answer("Jump", action) : ofSystem_->get_accDefaultAction(child, action);
+    if (!IsLink(child)) return ofSystem_->get_accDefaultAction(child, action);
+    return Answer(action, [] { return std::string("Jump"); });
   }
   STDMETHODIMP accDoDefaultAction(VARIANT child) override {
     const std::shared_ptr<ControlWindow> window = window_.lock();

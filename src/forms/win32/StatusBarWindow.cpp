@@ -86,7 +86,7 @@ void StatusBarWindow::PaintSurface(HDC context, const RECT& area) {
   FillGradient(context, area, colors.Of(palette::ToolbarFrom), colors.Of(palette::ToolbarTo),
                Direction::Down);
   DrawLine(context, {area.left, area.top}, {area.right, area.top}, colors.Of(palette::FrameLine));
-  const int indent = System().Pixels.Grown(TextIndent);
+  const int indent = System().Pixels.Scaled(TextIndent);
   for (std::size_t index = 0; index < texts_.size(); ++index) {
     RECT part{};
     SendMessageA(Handle(), SB_GETRECT, index, reinterpret_cast<LPARAM>(&part));

@@ -31,7 +31,7 @@ WindowShape TextBoxWindow::Shape() const {
 }
 
 void TextBoxWindow::Prepare() {
-  const int margin = System().Pixels.Grown(TextMargin);
+  const int margin = System().Pixels.Scaled(TextMargin);
   Tell(EM_SETLIMITTEXT, LongestText);
   Tell(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
@@ -41,14 +41,6 @@ LRESULT TextBoxWindow::OnCommand(WPARAM first, LPARAM) {
   const std::string text = ShownText();
   if (text != box_.WindowText()) Raise([&] { box_.AssignWindowText(text); });
   return 0;
-}
-
-HBRUSH TextBoxWindow::OnColor(HDC context) {
-  const Color ground = InputGround();
-  const Color text = box_.Enabled() ? box_.ForeColor() : palette::GrayText;
-  SetTextColor(context, System().Palette.TextOn(text, ground));
-  SetBkColor(context, System().Palette.Of(ground));
-  return System().Palette.BrushOf(ground);
 }
 
 LRESULT TextBoxWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {

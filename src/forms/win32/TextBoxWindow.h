@@ -12,7 +12,7 @@ class TextBoxWindow final : public ControlWindow {
   TextBoxWindow(WindowSystem& system, TextBox& box) : ControlWindow(system, box), box_(box) {}
   void PaintSurface(HDC, const RECT&) override {}
   LRESULT OnCommand(WPARAM first, LPARAM second) override;
-  HBRUSH OnColor(HDC context) override;
+  HBRUSH OnColor(HDC context) override { return OnInputColor(context); }
 
  protected:
   WindowShape Shape() const override;

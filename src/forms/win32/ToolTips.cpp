@@ -21,7 +21,7 @@ void ToolTips::MakeWindow() {
   controls_.clear();
   tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0,
                           0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
-  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, Scale::OfScreen().Grown(WidestTip));
+  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, Scale::OfScreen().Scaled(WidestTip));
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {

@@ -27,10 +27,10 @@ WindowShape ToolbarWindow::Shape() const {
 void ToolbarWindow::Prepare() {
   const std::string list = bar_.Pictures().QualifiedName();
   const SIZE picture = System().Images.SizeOf(list);
-  const int margin = System().Pixels.Grown(ButtonMargin);
+  const int margin = System().Pixels.Scaled(ButtonMargin);
   Tell(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
   Tell(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
-  Tell(TB_SETINDENT, static_cast<WPARAM>(System().Pixels.Grown(LeftIndent)));
+  Tell(TB_SETINDENT, static_cast<WPARAM>(System().Pixels.Scaled(LeftIndent)));
   Tell(TB_SETBITMAPSIZE, 0, MAKELPARAM(picture.cx, picture.cy));
   Tell(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(System().Images.ImagesFor(list)));
   Tell(TB_SETBUTTONSIZE, 0, MAKELPARAM(picture.cx + margin, picture.cy + margin));
@@ -46,7 +46,7 @@ void ToolbarWindow::AddButtons() {
     button.fsState = TBSTATE_ENABLED;
     if (model.IsSeparator()) {
       button.fsStyle = BTNS_SEP;
-      button.iBitmap = System().Pixels.Grown(SeparatorWidth);
+      button.iBitmap = System().Pixels.Scaled(SeparatorWidth);
     } else {
       button.fsStyle = BTNS_BUTTON;
       button.iBitmap = model.Picture - 1;

@@ -75,10 +75,16 @@ void UserControlWindow::Changed(Aspect aspect) {
 
 void UserControlWindow::FaceChanged(Label& face, Aspect aspect) {
   if (!Alive()) return;
-  if (aspect == Aspect::Text) {
-    Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(face.Caption().c_str()));
-  } else if (aspect == Aspect::ToolTip) {
-    ControlWindow::Changed(aspect);
+  switch (aspect) {
+    case Aspect::Text:
+      Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(face.Caption().c_str()));
+      break;
+    case Aspect::ToolTip:
+    case Aspect::Pointer:
+      // Nothing of the text.
+      return ControlWindow::Changed(aspect);
+    default:
+      break;
   }
   Invalidate();
   if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels, BorderOf(face));
@@ -113,30 +119,17 @@ RECT UserControlWindow::PaintBorder(HDC context, const RECT& area) const {
   return inside;
 }
 
-void UserControlWindow::Press(bool down, LPARAM position) {
-  if (down) {
-    pressed_ = true;
-    ::SetFocus(Handle());
-    if (Alive()) SetCapture(Handle());
-    return;
-  }
-  if (!pressed_) return;
-  pressed_ = false;
-  const bool inside = HasMouse(position);
-  ReleaseCapture();
-  if (inside && Alive()) Raise([this] { Face().UserClick(); });
-}
-
 LRESULT UserControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP: {
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (Alive()) Press(message != WM_LBUTTONUP, second);
+      if (CompletesClick(message, second, true)) Raise([this] { Face().UserClick(); });
       return answer;
     }
     case WM_MOUSEMOVE:
+      EndPressUnlessHeld(first);
       // While a button is held the mouse is told here wherever it is. Outside it is not over the
       // face: taken for that, it would begin a hover that the next look at the mouse ends again.
       if (!HasMouse(second)) return Window::OnMessage(message, first, second);

@@ -33,11 +33,9 @@ class UserControlWindow : public ControlWindow {
 
  private:
   Control& Face() const;
-  void Press(bool down, LPARAM position);
   RECT PaintBorder(HDC context, const RECT& area) const;
 
   UserControl& surface_;
-  bool pressed_ = false;
 };
 
 // Whether the label lies on a user control, which then shows it.

@@ -74,7 +74,7 @@ void Window::Destroy() {
   system_.Destroying = nested;
 }
 
-LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM second) {
+LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM second) noexcept {
   if (message == WM_NCCREATE && ObjectOf(window) == nullptr) {
     const auto* creation = reinterpret_cast<const CREATESTRUCTA*>(second);
     if (creation->lpCreateParams != nullptr) {

@@ -65,7 +65,8 @@ class Window : public std::enable_shared_from_this<Window> {
   std::shared_ptr<Window> ParentWindow() const;
 
  private:
-  static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second);
+  // Windows' code lies between this and who sent the message: no exception may pass through it.
+  static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second) noexcept;
   LRESULT Reflect(UINT message, WPARAM first, LPARAM second);
   void Paint();
   void Adopt(HWND window);

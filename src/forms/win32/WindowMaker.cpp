@@ -9,6 +9,7 @@
 #include "forms/win32/FileListWindow.h"
 #include "forms/win32/FormWindow.h"
 #include "forms/win32/FrameWindows.h"
+#include "forms/win32/HandleOf.h"
 #include "forms/win32/ImageWindow.h"
 #include "forms/win32/LabelWindow.h"
 #include "forms/win32/ListViewWindow.h"
@@ -69,8 +70,7 @@ class Maker final : public ControlVisitor {
 
 void MakeControlWindow(WindowSystem& system, Control& control, HWND form, int identifier) {
   const Control* container = control.Container();
-  const HWND parent =
-      container != nullptr ? reinterpret_cast<HWND>(container->WindowHandle()) : form;
+  const HWND parent = container != nullptr ? HandleOf(*container) : form;
   Maker maker(system, parent, identifier);
   control.Accept(maker);
 }

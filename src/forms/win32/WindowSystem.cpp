@@ -75,6 +75,8 @@ void WindowSystem::PumpMessages() {
 }
 
 void WindowSystem::Dispatch(MSG& message) {
+  // A key may raise several events, on windows that the first of them discards.
+  const EventScope scope(*this);
   if (HandleKey(*this, message)) return;
   TranslateMessage(&message);
   DispatchMessageA(&message);
@@ -129,12 +131,14 @@ bool WindowSystem::ShowPointer(int pointer) const {
   return true;
 }
 
-void WindowSystem::ScreenPointerChanged() {
+void WindowSystem::RefreshPointer() const {
   POINT mouse{};
   GetCursorPos(&mouse);
   const HWND under = WindowFromPoint(mouse);
   if (Find(under) == nullptr) return;
-  if (!ShowPointer(PointerDefault)) SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+  const auto part = SendMessageA(under, WM_NCHITTEST, 0, MAKELPARAM(mouse.x, mouse.y));
+  SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+               MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
 std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures) {

@@ -49,6 +49,8 @@ class WindowSystem final : public Win32Toolkit {
   void RefreshColors();
   // Shows the pointer of the program or, without one, `pointer`; false to leave it to Windows.
   bool ShowPointer(int pointer) const;
+  // Lets the window under the mouse show its pointer anew, if it is one of this toolkit's.
+  void RefreshPointer() const;
 
   const Scale Pixels;
   Colors Palette;
@@ -60,7 +62,7 @@ class WindowSystem final : public Win32Toolkit {
 
  protected:
   void PumpMessages() override;
-  void ScreenPointerChanged() override;
+  void ScreenPointerChanged() override { RefreshPointer(); }
 
  private:
   void Dispatch(MSG& message);

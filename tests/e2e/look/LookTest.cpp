@@ -67,7 +67,7 @@ std::string Trimmed(const std::string& text) {
 
 class LookTest : public LookFixture, public testing::WithParamInterface<int> {
  protected:
-  int Grown(int pixels) const { return MulDiv(pixels, GetParam(), DesignDpi); }
+  int Scaled(int pixels) const { return MulDiv(pixels, GetParam(), DesignDpi); }
 
   SIZE Needed(const Seen& control, const SIZE& room) const {
     const LOGFONTA font = Within().FontOf(control.Window);
@@ -75,11 +75,11 @@ class LookTest : public LookFixture, public testing::WithParamInterface<int> {
       const bool pushed = (GetWindowLongA(control.Window, GWL_STYLE) & BS_TYPEMASK) <=
                           static_cast<LONG>(BS_DEFPUSHBUTTON);
       const SIZE text = Measured(control.Text, font, 0, DT_SINGLELINE);
-      return {text.cx + (pushed ? 2 * ButtonMargin : Grown(GlyphRoom)), text.cy};
+      return {text.cx + (pushed ? 2 * ButtonMargin : Scaled(GlyphRoom)), text.cy};
     }
     if (IsContainer(control)) {
       const SIZE text = Measured(Trimmed(control.Text), font, 0, DT_SINGLELINE);
-      return {text.cx + 2 * Grown(CaptionIndent), text.cy};
+      return {text.cx + 2 * Scaled(CaptionIndent), text.cy};
     }
     return Measured(Trimmed(control.Text), font, room.cx, DT_WORDBREAK | DT_EXPANDTABS);
   }
@@ -138,7 +138,7 @@ class LookTest : public LookFixture, public testing::WithParamInterface<int> {
       if (GetParam() == DesignDpi) designed[key] = area;
       const auto known = designed.find(key);
       if (known == designed.end() || control.Name == "frmMain.sbStatusBar") continue;
-      if (area.left == Grown(known->second.left) && area.top == Grown(known->second.top)) continue;
+      if (area.left == Scaled(known->second.left) && area.top == Scaled(known->second.top)) continue;
       found += control.Name + " at " + Show(area) + ", designed " + Show(known->second) + "\n";
     }
     return found;
@@ -192,8 +192,8 @@ TEST_P(LookTest, EveryControlOfTheDialogsHasItsPlace) {
 TEST_P(LookTest, TheMainWindowFitsASmallScreen) {
   Start(GetParam());
   const RECT area = OnScreen(Main());
-  EXPECT_LE(area.right - area.left, Grown(800));
-  EXPECT_LE(area.bottom - area.top, Grown(600));
+  EXPECT_LE(area.right - area.left, Scaled(800));
+  EXPECT_LE(area.bottom - area.top, Scaled(600));
 }
 
 INSTANTIATE_TEST_SUITE_P(AllResolutions, LookTest, testing::Values(96, 120, 144, 192),

@@ -18,6 +18,12 @@ std::string TemporaryFolder() {
 
 ProgramCopy::ProgramCopy(const std::string& name) : folder_(TemporaryFolder() + name) {
   CreateDirectoryA(folder_.c_str(), nullptr);
+  Fill();
+}
+
+ProgramCopy::ProgramCopy(Place /*InRoot*/) : folder_(TemporaryFolder().substr(0, 2)) { Fill(); }
+
+void ProgramCopy::Fill() const {
   CreateDirectoryA((folder_ + "\\Settings").c_str(), nullptr);
   if (CopyFileA(ExecutablePath().c_str(), Executable().c_str(), FALSE) == FALSE) {
     throw std::runtime_error("cannot copy the program to " + folder_);
@@ -36,7 +42,8 @@ ProgramCopy::~ProgramCopy() {
   FindClose(search);
   RemoveDirectoryA((folder_ + "\\Settings").c_str());
   DeleteFileA(Executable().c_str());
-  RemoveDirectoryA(folder_.c_str());
+  const bool isDrive = folder_.back() == ':';
+  if (!isDrive) RemoveDirectoryA(folder_.c_str());
 }
 
 void WriteFileBytes(const std::string& path, const std::string& bytes) {

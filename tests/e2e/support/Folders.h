@@ -15,6 +15,9 @@ class ProgramCopy {
  public:
   // `name` of the folder, below the temporary one.
   explicit ProgramCopy(const std::string& name);
+  // In the root of the drive with the temporary folder.
+  enum Place { InRoot };
+  explicit ProgramCopy(Place place);
   ~ProgramCopy();
   ProgramCopy(const ProgramCopy&) = delete;
   ProgramCopy& operator=(const ProgramCopy&) = delete;
@@ -24,6 +27,8 @@ class ProgramCopy {
   std::string LogFile() const { return folder_ + "\\Settings\\log.txt"; }
 
  private:
+  void Fill() const;
+
   std::string folder_;
 };
 

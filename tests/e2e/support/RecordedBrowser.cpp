@@ -30,25 +30,33 @@ RecordedBrowser::~RecordedBrowser() {
 
 std::string RecordedBrowser::Program() { return '"' + HelperPath("recording-browser.exe") + '"'; }
 
-std::vector<std::string> RecordedBrowser::Lines() const {
-  std::vector<std::string> lines;
+std::vector<BrowserStart> RecordedBrowser::Starts() const {
+  std::vector<BrowserStart> starts;
   std::ifstream file(path_, std::ios::binary);
   for (std::string line; std::getline(file, line);) {
     // A line that is still being written has no end yet.
-    if (!line.empty() && line.back() == '\r') lines.push_back(line.substr(0, line.size() - 1));
+    if (line.empty() || line.back() != '\r') continue;
+    const std::size_t blank = line.find(' ');
+    starts.push_back({line.substr(0, blank), line.substr(blank + 1, line.size() - blank - 2)});
   }
-  return lines;
+  return starts;
+}
+
+std::vector<BrowserStart> RecordedBrowser::WaitForStarts(std::size_t count, DWORD bound) {
+  std::vector<BrowserStart> starts;
+  WaitFor(
+      [&] {
+        starts = Starts();
+        return starts.size() >= count;
+      },
+      bound);
+  WaitFor([&] { return DeleteFileA(path_.c_str()) != FALSE || starts.empty(); });
+  return starts;
 }
 
 std::vector<std::string> RecordedBrowser::WaitForLines(std::size_t count, DWORD bound) {
   std::vector<std::string> lines;
-  WaitFor(
-      [&] {
-        lines = Lines();
-        return lines.size() >= count;
-      },
-      bound);
-  WaitFor([&] { return DeleteFileA(path_.c_str()) != FALSE || lines.empty(); });
+  for (const BrowserStart& start : WaitForStarts(count, bound)) lines.push_back(start.commandLine);
   return lines;
 }
 

@@ -11,6 +11,12 @@
 
 namespace vantrel::e2e {
 
+// One start of the browser.
+struct BrowserStart {
+  std::string windowState;  // the number that came with the start, "-" if none did
+  std::string commandLine;
+};
+
 class RecordedBrowser {
  public:
   // Registers `command`, or the recording program, quoted, with parameters of its own.
@@ -21,11 +27,13 @@ class RecordedBrowser {
 
   // The browser as it stands at the head of a command line.
   static std::string Program();
-  // The command lines since the last call, once there are `count` of them or the time is over.
+  // The starts since the last call, once there are `count` of them or the time is over.
+  std::vector<BrowserStart> WaitForStarts(std::size_t count = 1, DWORD bound = DefaultBound);
+  // The same, their command lines alone.
   std::vector<std::string> WaitForLines(std::size_t count = 1, DWORD bound = DefaultBound);
 
  private:
-  std::vector<std::string> Lines() const;
+  std::vector<BrowserStart> Starts() const;
 
   KeptValue command_;
   std::string path_;

@@ -4,6 +4,7 @@
 #include <tlhelp32.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <stdexcept>
@@ -148,7 +149,19 @@ bool Running::WaitUntilIdle(DWORD bound) const {
       bound);
   // A message that is answered behind the start-up means that it has ended.
   DWORD_PTR ignored = 0;
-  return idle && SendBounded(Find("frmMain"), WM_NULL, 0, 0, ignored);
+  if (idle && SendBounded(Find("frmMain"), WM_NULL, 0, 0, ignored)) return true;
+  std::fprintf(stderr, "Vantrel did not become idle: %s\n", Hindrance().c_str());
+  return false;
+}
+
+std::string Running::Hindrance() const {
+  if (!Alive()) {
+    DWORD code = 0;
+    GetExitCodeProcess(process_.hProcess, &code);
+    return "it ended with code " + std::to_string(code);
+  }
+  const std::optional<Box> box = CurrentBox();
+  return box ? "it shows '" + box->text + "'" : "it did not get there in time";
 }
 
 HWND Running::Find(const std::string& controlName) const {

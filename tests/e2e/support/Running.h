@@ -42,7 +42,7 @@ class Running {
   // Waits until the process has ended.
   bool WaitForExit(DWORD bound = DefaultBound) const;
   // Waits until start-up is over: the mailbox is ready and Start is pressed. Fails at once if the
-  // process ends or a box comes up.
+  // process ends or a box comes up, and says on the error output what stood in the way.
   bool WaitUntilIdle(DWORD bound = 30000) const;
 
   // The window or control with this "ControlName", nullptr if there is none.
@@ -94,6 +94,8 @@ class Running {
   bool Answer(const Box& box, int button = IDOK) const;
 
  private:
+  std::string Hindrance() const;
+
   PROCESS_INFORMATION process_{};
   mutable std::map<std::string, HWND> known_;  // what Find has found
 };

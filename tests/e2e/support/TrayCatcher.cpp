@@ -11,13 +11,22 @@ namespace {
 
 constexpr const char* TrayClass = "Shell_TrayWnd";
 
-// The head of what the shell's library hands over, the same for programs of any word size.
+// The head of what the shell's library hands over, the same for programs of any word size. The
+// bits of the icon's mask and colours follow; without an icon its size is 0.
 struct Handed {
   LONG window;
   UINT identifier;
   UINT flags;
   UINT callbackMessage;
   WCHAR tip[128];
+  DWORD state[2];
+  WCHAR info[256];
+  UINT version;
+  WCHAR infoTitle[64];
+  DWORD infoFlags;
+  GUID item;
+  LONG iconWidth;
+  LONG iconHeight;
 };
 
 std::string Narrow(const WCHAR* text) {
@@ -77,8 +86,12 @@ void TrayCatcher::Take(const COPYDATASTRUCT& data) {
   std::memcpy(&handed, data.lpData, sizeof(handed));
   const std::scoped_lock lock(mutex_);
   calls_.push_back({static_cast<DWORD>(data.dwData),
-                    reinterpret_cast<HWND>(static_cast<LONG_PTR>(handed.window)), handed.identifier,
-                    handed.flags, handed.callbackMessage, Narrow(handed.tip)});
+                    reinterpret_cast<HWND>(static_cast<LONG_PTR>(handed.window)),
+                    handed.identifier,
+                    handed.flags,
+                    handed.callbackMessage,
+                    Narrow(handed.tip),
+                    {handed.iconWidth, handed.iconHeight}});
 }
 
 bool TrayCatcher::InPlace() const { return FindWindowA(TrayClass, nullptr) == window_; }

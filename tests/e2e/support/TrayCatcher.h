@@ -20,6 +20,7 @@ struct TrayCall {
   UINT flags = 0;
   UINT callbackMessage = 0;
   std::string tip;
+  SIZE icon{};  // the size of the picture that came along, in pixels; empty without one
 };
 
 class TrayCatcher {

@@ -247,10 +247,15 @@ TEST_F(HyperLinks, AFailedOpeningGoesUnnoticed) {
   EXPECT_EQ(events_, Events{"Click"});
 }
 
-TEST_F(HyperLinks, AnErrorOfTheClicksHandlerIsIgnored) {
+TEST_F(HyperLinks, AnErrorOfTheClicksHandlerEndsAtItsOwnBorder) {
   Make({{"hyperlink", ""}});
+  std::vector<text::ErrorNumber> shown;
+  toolkit_.OnUntrappedError = [&shown](const text::RuntimeError& error) {
+    shown.push_back(error.Number());
+  };
   Link().Click = [] { throw text::RuntimeError(text::ErrorNumber::FileNotFound); };
   EXPECT_NO_THROW(Link().UserClick());
+  EXPECT_EQ(shown, std::vector{text::ErrorNumber::FileNotFound});
 }
 
 TEST_F(HyperLinks, TheEndOfTheProgramPassesThroughAClick) {
@@ -363,6 +368,44 @@ TEST_F(HyperLinks, WithoutAutoSizeTheLabelIsCutAtTheLinksSize) {
   Link().SetCaption("A caption that is far too long for the room that the link has been given");
   EXPECT_EQ(Label().At(), (forms::Place{0, 0, LinkPlace.Width, LinkPlace.Height}));
   EXPECT_EQ(Link().At(), LinkPlace);
+}
+
+// The label has been given another size behind the link's back; what the setter reports, it reports
+// before the link follows.
+TEST_F(HyperLinks, TheSettersThatMayChangeTheSizeReportAndThenFollowTheLabel) {
+  const std::vector<std::function<void(HyperLink&)>> setters{
+      [](HyperLink& link) { link.SetFont({.Size = 12}); },
+      [](HyperLink& link) { link.SetAlignment(1); },
+      [](HyperLink& link) { link.SetAutoSize(true); },
+      [](HyperLink& link) { link.SetCaption(link.Caption()); }};
+  for (const auto& set : setters) {
+    Make();
+    const forms::Place before = Link().At();
+    Label().Move({0, 0, 900, 210});
+    std::vector<forms::Place> reported;
+    Link().PropertyChanged = [&](const std::string&) { reported.push_back(Link().At()); };
+    set(Link());
+    EXPECT_EQ(reported, std::vector{before});
+    EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 900, 210}));
+  }
+}
+
+TEST_F(HyperLinks, WithAutoSizeTakenAwayTheLabelFollowsTheLink) {
+  Make();
+  const forms::Place before = Link().At();
+  Label().Move({0, 0, 900, 210});
+  Link().SetAutoSize(false);
+  EXPECT_EQ(Link().At(), before);
+  EXPECT_EQ(Label().At(), (forms::Place{0, 0, before.Width, before.Height}));
+}
+
+TEST_F(HyperLinks, TheSizeFollowsBeforeAChangeIsTold) {
+  Make();
+  Label().Move({0, 0, 900, 210});
+  forms::Place told;
+  Link().Change = [&] { told = Link().At(); };
+  Link().SetCaption("Shorter");
+  EXPECT_EQ(told, (forms::Place{LinkPlace.Left, LinkPlace.Top, 900, 210}));
 }
 
 TEST_F(HyperLinks, AChangeOfSizeIsTakenOver) {
@@ -481,6 +524,34 @@ TEST_F(HyperLinks, TheContainersFontIsTakenAsItIsAndNotSaved) {
   EXPECT_FALSE(Bag(Link()).Contains("font"));
   Link().SetFont({.Name = "Arial", .Size = 8.124});
   EXPECT_TRUE(Bag(Link()).Contains("font"));
+}
+
+TEST_F(HyperLinks, TheContainersColoursAreTakenAndNotSaved) {
+  Make();
+  form_->Area.SetForeColor(0x112233);
+  form_->Area.SetBackColor(0x445566);
+  Link().ReadProperties({});
+  EXPECT_EQ(Link().ForeColor(), 0x112233U);
+  EXPECT_EQ(Link().BackColor(), 0x445566U);
+  EXPECT_FALSE(Bag(Link()).Contains("forecolor"));
+  EXPECT_FALSE(Bag(Link()).Contains("backcolor"));
+  Link().SetForeColor(0x010203);
+  Link().SetBackColor(0x040506);
+  EXPECT_EQ(Bag(Link()).ReadProperty("forecolor", ""), "&H00010203");
+  EXPECT_EQ(Bag(Link()).ReadProperty("backcolor", ""), "&H00040506");
+}
+
+TEST_F(HyperLinks, DirectlyOnAWindowTheWindowIsTheContainer) {
+  struct BareForm : forms::Form {
+    explicit BareForm(forms::Toolkit& toolkit)
+        : Form(toolkit, "Form2", {.Width = 6000, .Height = 6000, .BackColor = 0x778899}) {}
+    HyperLink Link{*this, "Link", {.At = LinkPlace}};
+  };
+  BareForm form(toolkit_);
+  EXPECT_EQ(form.Link.ForeColor(), forms::palette::WindowText);
+  EXPECT_EQ(form.Link.BackColor(), 0x778899U);
+  EXPECT_FALSE(Bag(form.Link).Contains("forecolor"));
+  EXPECT_FALSE(Bag(form.Link).Contains("backcolor"));
 }
 
 TEST_F(HyperLinks, NamesAreFoundInAnyCaseAndOrder) {

@@ -58,6 +58,7 @@ class NotingPeer : public FormPeer {
 class NotingToolkit : public Toolkit {
  public:
   std::unique_ptr<FormPeer> MakeWindow(Form& form) override {
+    if (Refusing) throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
     for (Control* control : form.Controls()) {
       control->AttachPeer(std::make_unique<NotingPeer>(notes, control->Name()));
     }
@@ -67,6 +68,7 @@ class NotingToolkit : public Toolkit {
 
   Notes notes;
   std::function<void()> WhenPumped;
+  bool Refusing = false;  // the system makes no window
 
  protected:
   void PumpMessages() override {

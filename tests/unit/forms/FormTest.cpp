@@ -381,5 +381,32 @@ TEST_F(Forms, TabGoesThroughTheWindowThenItsPanels) {
   EXPECT_EQ(&form.text, form.NextTabStop(nullptr));
 }
 
+TEST_F(Forms, TabVisitsOneOptionOfAGroup) {
+  form.Show();
+  EXPECT_THAT(form.TabOrder(), Contains(&form.one));
+  EXPECT_THAT(form.TabOrder(), Not(Contains(&form.two)));
+  form.two.SetValue(true);
+  EXPECT_THAT(form.TabOrder(), Not(Contains(&form.one)));
+  EXPECT_THAT(form.TabOrder(), Contains(&form.two));
+  form.two.SetValue(false);
+  EXPECT_THAT(form.TabOrder(), Contains(&form.one));
+  form.one.SetEnabled(false);
+  EXPECT_THAT(form.TabOrder(), Contains(&form.two));
+  // A group of its own.
+  EXPECT_THAT(form.TabOrder(), Contains(&form.lone));
+}
+
+TEST_F(Forms, AWindowThatCannotBeMadeIsNotLoaded) {
+  toolkit.Refusing = true;
+  form.Load = Note("load");
+  EXPECT_EQ(7, ErrorOf([&] { form.EnsureLoaded(); }));
+  EXPECT_FALSE(form.Loaded());
+  EXPECT_THAT(toolkit.LoadedForms(), IsEmpty());
+  toolkit.Refusing = false;
+  form.EnsureLoaded();
+  EXPECT_TRUE(form.Loaded());
+  EXPECT_THAT(notes, ElementsAre("load"));
+}
+
 }  // namespace
 }  // namespace vantrel::forms

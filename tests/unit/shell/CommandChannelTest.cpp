@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "shell/CommandChannel.h"
+#include "shell/Navigation.h"
 #include "shell/bmdlActivate.h"
 #include "unit/shell/ShellTest.h"
 
@@ -23,7 +24,9 @@ class CommandChannel : public test::ShellTest {
 
   // What any other program may do, by the protocol alone.
   void SendFromOutside(const std::string& command) {
-    const auto button = world.desktop.FindByCaption("Ready for command");
+    SendTo(world.desktop.FindByCaption("Ready for command"), command);
+  }
+  void SendTo(platform::WindowHandle button, const std::string& command) {
     world.desktop.SendText(button, 12, 0, command);
     world.desktop.Send({button, 245, 0, 0, nullptr});
   }
@@ -146,6 +149,26 @@ TEST_F(CommandChannel, ATextWrittenDuringADeliveryIsNotTheCommand) {
   EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
 }
 
+// Nothing guards a panel's yield: who knows the button need not find it again.
+TEST_F(CommandChannel, ASenderThatFoundTheButtonEarlierIsServedWithinAnotherDelivery) {
+  const auto button = world.desktop.FindByCaption("Ready for command");
+  bool shownWithin = false;
+  copy->toolkit.WhenPumped([&] {
+    SendTo(button, "/notify");
+    shownWithin = Windows().FrmFrameNotification->Visible();
+  });
+  SendTo(button, "/graph");
+  EXPECT_TRUE(shownWithin);
+  EXPECT_THAT(ShownPanels(*copy),
+              ElementsAre("FrmFrameMain", "FrmFrameNotification", "FrmFrameGraph"));
+  EXPECT_EQ(Main().Text1.Text(), "Excuted with command: /graph\r\nExcuted with command: /notify");
+  EXPECT_EQ(Main().cmdDummy.Caption(), "Ready for command");
+  EXPECT_TRUE(Main().Visible());
+  // And the channel is open for the next.
+  SendFromOutside("/clean");
+  EXPECT_TRUE(Windows().FrmFrameHistory->Visible());
+}
+
 TEST_F(CommandChannel, AnUntrappedErrorOfACommandLeavesTheChannelOpen) {
   world.registry.Set(platform::HKeyCurrentUser, BlockSettings, "BpId", platform::RegDword, "");
   SendFromOutside("/onoff");
@@ -213,6 +236,26 @@ TEST_F(CommandChannel, OneGulpLoadsAndShowsTheToolbarsDialog) {
   OneGulp(copy->program, "/CustomToolbar");
   EXPECT_FALSE(Main().Visible());
   EXPECT_TRUE(Windows().frmcustom->Visible());
+  EXPECT_EQ(Main().Text1.Text(), "");
+}
+
+TEST_F(CommandChannel, OneGulpShowsTheOwnPanelOfEachCommandAndKeepsTheTitle) {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"/clean", {"FrmFrameMain", "FrmFrameHistory"}},
+      {"/addlinks", {"FrmFrameMain", "FrmFrameAllowList"}},
+      {"/notify", {"FrmFrameMain", "FrmFrameNotification"}},
+      {"/graph", {"FrmFrameMain", "FrmFrameGraph"}},
+      {"/iesettings", {"FrmFrameMain", "FrmFrameIESettings"}},
+      {"/ieplugins", {"FrmFrameMain", "FrmFrameIEPlugin"}},
+      {"/options", {"FrmFrameSettings"}},
+      {"/onoff", {"FrmFrameMain"}},
+  };
+  for (const auto& [command, shown] : cases) {
+    HideAll(copy->program);
+    OneGulp(copy->program, command);
+    EXPECT_THAT(ShownPanels(*copy), testing::ElementsAreArray(shown)) << command;
+    EXPECT_EQ(Main().lblVCP1.Caption(), "Welcome - Qorvel Software Vantrel ") << command;
+  }
   EXPECT_EQ(Main().Text1.Text(), "");
 }
 

@@ -85,6 +85,17 @@ TEST_F(Links, ATargetOfFourCharactersGetsTheMessageWhateverTheBrowser) {
   EXPECT_THAT(Started(), IsEmpty());
 }
 
+TEST_F(Links, ATargetOfFiveCharactersIsLongEnough) {
+  Open("a.ht");
+  EXPECT_THAT(BoxTexts(*copy), ElementsAre("Unable to open URL. Install browser first!"));
+  EXPECT_THAT(Started(), IsEmpty());
+  Open("a.htm");
+  Open("http:");
+  EXPECT_EQ(copy->process.Boxes().size(), 1U);
+  EXPECT_THAT(Started(),
+              ElementsAre(Browser + std::string("\"a.htm\""), Browser + std::string("http:")));
+}
+
 TEST_F(Links, ASchemeInCapitalsIsNotQuoted) {
   Open("HTTP://a.example/");
   EXPECT_THAT(Started(), ElementsAre(std::string(Browser) + "HTTP://a.example/"));
@@ -145,6 +156,23 @@ TEST_F(Links, ABrowserThatCannotBeStartedEndsInTheBoxOfItsEvent) {
   SetBrowser(std::string(40000, 'x') + "\" overlong");
   ClickNamed("FrmFrameMain.Label6");
   EXPECT_EQ(copy->process.Boxes().size(), 2U);
+}
+
+TEST_F(Links, TheReasonOfAFailedStartIsTheNumberOfItsError) {
+  const std::pair<std::int32_t, const char*> cases[] = {
+      {5, "Run-time error '70':\r\n\r\nPermission denied"},
+      {3, "Run-time error '76':\r\n\r\nPath not found"},
+      {2, "Run-time error '53':\r\n\r\nFile not found"},
+      {193, "Run-time error '53':\r\n\r\nFile not found"},
+      {1223, "Run-time error '53':\r\n\r\nFile not found"},
+  };
+  for (const auto& [reason, text] : cases) {
+    copy->process.ClearBoxes();
+    copy->process.Faults().FailEvery("CreateProcessA", reason);
+    for (const char* target : {"http://a.example/", "C:\\page.htm"}) Open(target);
+    EXPECT_THAT(BoxTexts(*copy), ElementsAre(text, text)) << reason;
+  }
+  EXPECT_THAT(Started(), IsEmpty());
 }
 
 TEST_F(Links, TheProgramFolderIsTakenAsTheSystemGivesIt) {

@@ -21,6 +21,10 @@ class Navigation : public test::ShellTest {
     for (const auto& started : world.programs.Started()) lines.push_back(started.commandLine);
     return lines;
   }
+  void ExpectNoBrowserBox() {
+    EXPECT_THAT(BoxTexts(*copy), ElementsAre("Run-time error '53':\r\n\r\nFile not found"));
+    copy->process.ClearBoxes();
+  }
 
   std::unique_ptr<Copy> copy;
 };
@@ -215,6 +219,62 @@ TEST_F(Navigation, TheMenuOfHelpDoesTheSame) {
   EXPECT_TRUE(Windows().FrmFrameGraph->Visible());
   EXPECT_TRUE(Main().frahelp.Visible());
   EXPECT_EQ(Title(), "Help - Qorvel Software Vantrel ");
+}
+
+TEST_F(Navigation, EntriesThatShowNoPanelHideNone) {
+  using windows::frmMain;
+  constexpr forms::Menu frmMain::*Entries[] = {
+      &frmMain::MnuStartBlocking, &frmMain::mnutest,       &frmMain::MnuStop,
+      &frmMain::submnuIEToolbar,  &frmMain::submnuLogFile, &frmMain::submnuAbout,
+      &frmMain::MnuHide,
+  };
+  world.files.Put("C:\\Program Files\\Vantrel\\Settings\\log.txt", "x");
+  copy->toolkit.WaitForEvents = [this] {
+    copy->toolkit.WhenPumped([this] { Windows().FrmAbout->CmdOK.SetValue(true); });
+    return true;
+  };
+  CaseGraph(copy->program);
+  for (const auto entry : Entries) {
+    const std::string name = (Main().*entry).Name();
+    ASSERT_TRUE(copy->user.Select(Main().*entry)) << name;
+    EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain", "FrmFrameGraph")) << name;
+    EXPECT_EQ(Title(), "Welcome - Qorvel Software Vantrel ") << name;
+  }
+}
+
+TEST_F(Navigation, ToolButtonsThatShowNoPanelHideNone) {
+  CaseGraph(copy->program);
+  for (const int button : {3, 4, 9, 13}) {
+    ASSERT_TRUE(copy->user.Press(Main().Toolbar1, button)) << button;
+    EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain", "FrmFrameGraph")) << button;
+    EXPECT_EQ(Title(), "Welcome - Qorvel Software Vantrel ") << button;
+  }
+}
+
+TEST_F(Navigation, WithoutABrowserTheHelpFrameShowsUnderItsTitleAllTheSame) {
+  world.registry.RemoveKey(platform::HKeyClassesRoot, "http\\shell\\open\\command");
+  const std::function<void()> ways[] = {
+      [this] { copy->toolkit.AtBorder([this] { Main().LnkHelp.Click(); }); },
+      [this] { EXPECT_TRUE(copy->user.Press(Main().Toolbar1, 15)); },
+      [this] { EXPECT_TRUE(copy->user.Select(Main().submnuLaunchHelp)); },
+  };
+  for (const auto& open : ways) {
+    Main().LnkWelcome.Click();
+    open();
+    ExpectNoBrowserBox();
+    EXPECT_EQ(Title(), "Help - Qorvel Software Vantrel ");
+    EXPECT_TRUE(Main().frahelp.Visible());
+  }
+}
+
+TEST_F(Navigation, WithoutABrowserTheTestMenuStartsBlockingAllTheSame) {
+  world.registry.RemoveKey(platform::HKeyClassesRoot, "http\\shell\\open\\command");
+  ASSERT_TRUE(copy->user.Select(Main().MnuStop));
+  ASSERT_FALSE(EngineEntryStands());
+  ASSERT_TRUE(copy->user.Select(Main().mnutest));
+  ExpectNoBrowserBox();
+  EXPECT_TRUE(EngineEntryStands());
+  EXPECT_TRUE(Windows().FrmFrameMain->cmdstop.Enabled());
 }
 
 TEST_F(Navigation, SeparatorsAndNumbersOutsideAreIgnored) {

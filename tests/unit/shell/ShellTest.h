@@ -18,8 +18,10 @@ class ShellTest : public testing::Test {
   ShellTest() { FillMachine(world); }
 
   // A copy with its behaviour, not yet started.
-  std::unique_ptr<Copy> MakeCopy(const std::string& commandLine = "") {
-    auto copy = std::make_unique<Copy>(world, commandLine);
+  std::unique_ptr<Copy> MakeCopy(
+      const std::string& commandLine = "",
+      const std::string& executable = platform::memory::Process::DefaultExecutable) {
+    auto copy = std::make_unique<Copy>(world, commandLine, executable);
     shell::AttachProgram(copy->program);
     return copy;
   }

@@ -210,6 +210,22 @@ TEST_F(Startup, AHandedOverStartHasATrayIconOfItsOwnAndWritesDisabled) {
   EXPECT_THAT(second->process.Trace().LinesOf("RegCreateKeyExA"), IsEmpty());
 }
 
+// The root's folder ends in a backslash, which stands beside the literal's own.
+TEST_F(Startup, AProgramInADrivesRootStartsAndOpensWhatLiesBesideIt) {
+  auto copy = MakeCopy("", "C:\\Vantrel.exe");
+  Start(copy->program);
+  EXPECT_EQ(world.registry.GetString(HKeyLocalMachine, test::EngineKey, "Path"), "C:\\\\Settings");
+  auto& windows = copy->Windows();
+  copy->toolkit.AtBorder([&] { windows.FrmFrameMain->Label6.Click(); });
+  ASSERT_TRUE(copy->user.Select(windows.frmMain->submnuLogFile));
+  world.files.Put("C:\\Settings\\log.txt", "x");
+  ASSERT_TRUE(copy->user.Select(windows.frmMain->submnuLogFile));
+  std::vector<std::string> opened;
+  for (const auto& started : world.programs.Started()) opened.push_back(started.arguments);
+  EXPECT_THAT(opened, ElementsAre("\"C:\\\\help\\welcome.htm\"", "\"C:\\/Settings/Log.txt\""));
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+}
+
 TEST_F(Startup, ACommandThatArrivesMeanwhileIsCarriedOutAndTheStartGoesOn) {
   auto copy = MakeCopy();
   bool shown = false;

@@ -89,6 +89,21 @@ TEST_F(Tray, ARealMouseMoveAtThatPixelColumnTakesTheSamePath) {
   EXPECT_TRUE(Main().Visible());
 }
 
+// In twips, 15 a pixel here: what comes between two columns counts for the nearer one.
+TEST_F(Tray, TheColumnIsRounded) {
+  constexpr float Column = 515 * 15;
+  for (const float within : {-5.0F, 5.0F}) {
+    Main().Hide();
+    Windows().FrmFrameMain->MouseMove(0, 0, Column + within, 30);
+    EXPECT_TRUE(Main().Visible()) << within;
+  }
+  for (const float beyond : {-10.0F, 10.0F}) {
+    Main().Hide();
+    Windows().FrmFrameMain->MouseMove(0, 0, Column + beyond, 30);
+    EXPECT_FALSE(Main().Visible()) << beyond;
+  }
+}
+
 TEST_F(Tray, AScaleModeOfPixelsTakesTheCoordinateAsItIs) {
   Main().Hide();
   Windows().FrmFrameMain->SetScaleMode(forms::ScaleMode::Pixels);

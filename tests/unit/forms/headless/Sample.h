@@ -32,6 +32,7 @@ class Surface : public UserControl {
   Control* Face() override { return &face; }
   void UserClick() override { face.UserClick(); }
   void Resized() override { ++resizes; }
+  void KeyPressed() override { face.UserClick(); }
 
   Label face{*this, "face", {.Caption = "Link"}};
   int resizes = 0;
@@ -65,6 +66,8 @@ class SampleForm : public Form {
   ListView list{*this, "list", {}, {.Columns = {{"Name", 900}}, .CheckBoxes = true}};
   Toolbar bar{*this, "bar", {}, images, {{"One", 1}, {"", 0}, {"Three", 2}}};
   Surface link{*this, "link", {.At = {0, 0, 900, 300}}};
+  Label plainLink{*this, "plainLink", {.Caption = "Follow", .Drawn = Look::Link}};
+  TextBox lines{*this, "lines", {}, {.MultiLine = true}};
   CommandButton ok{*this, "ok", {.Caption = "OK", .Default = true}};
   CommandButton cancel{*this, "cancel", {.Caption = "Cancel", .Cancel = true}};
 };

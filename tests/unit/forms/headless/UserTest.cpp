@@ -147,6 +147,49 @@ TEST_F(Hand, PressesTheDefaultTheFocusedAndTheCancelButton) {
   EXPECT_THAT(notes, ElementsAre("ok", "inside", "inside", "cancel"));
 }
 
+TEST_F(Hand, FollowsTheLinkThatHasTheFocusByEnterAndSpace) {
+  for (Control* link :
+       {static_cast<Control*>(&form.link), static_cast<Control*>(&form.plainLink)}) {
+    link->SetFocus();
+    EXPECT_TRUE(user.Enter());
+    EXPECT_TRUE(user.Space());
+  }
+  EXPECT_THAT(notes, ElementsAre("face", "face", "plainLink", "plainLink"));
+}
+
+TEST_F(Hand, LeavesEnterToATextOfSeveralLines) {
+  form.lines.SetFocus();
+  EXPECT_FALSE(user.Enter());
+  EXPECT_FALSE(user.Space());
+  EXPECT_THAT(notes, IsEmpty());
+}
+
+TEST_F(Hand, PressesAndTicksWhatHasTheFocusBySpace) {
+  form.check.SetFocus();
+  EXPECT_TRUE(user.Space());
+  EXPECT_EQ(Checked, form.check.Value());
+  form.ok.SetFocus();
+  EXPECT_TRUE(user.Space());
+  form.list.Add("row", "Row", "");
+  form.list.SetFocus();
+  EXPECT_TRUE(user.Space());
+  EXPECT_TRUE(form.list.Item(1).Checked());
+  EXPECT_THAT(notes, ElementsAre("check", "ok"));
+}
+
+TEST_F(Hand, ClosesADialogWithoutACancelButtonByEscape) {
+  Form plain(toolkit, "frmPlain", {.Caption = "Plain", .Left = -1, .Frame = Border::Dialog});
+  SampleForm withButton(toolkit, "frmButton", Border::Dialog);
+  withButton.cancel.Click = Note("cancel");
+  withButton.Show();
+  EXPECT_TRUE(user.Escape());
+  EXPECT_TRUE(withButton.Loaded());
+  EXPECT_THAT(notes, ElementsAre("cancel"));
+  plain.Show();
+  EXPECT_TRUE(user.Escape());
+  EXPECT_FALSE(plain.Loaded());
+}
+
 TEST_F(Hand, ActsNoMoreOnceTheProgramEnds) {
   form.ok.Click = [&] { toolkit.End(); };
   EXPECT_TRUE(user.Click(form.ok));
