@@ -6,6 +6,8 @@ add_custom_target(
   stage ALL
   COMMAND ${CMAKE_COMMAND} -E make_directory "${VANTREL_STAGE}/Settings"
   COMMAND ${CMAKE_COMMAND} -E copy_if_different "$<TARGET_FILE:Vantrel>" "${VANTREL_STAGE}"
+  # What is no longer made must not go on being shipped.
+  COMMAND ${CMAKE_COMMAND} -E rm -rf "${VANTREL_STAGE}/help" "${VANTREL_STAGE}/Sound"
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${CMAKE_BINARY_DIR}/help" "${VANTREL_STAGE}/help"
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${CMAKE_BINARY_DIR}/sound" "${VANTREL_STAGE}/Sound"
   COMMENT "Staging the program folder"

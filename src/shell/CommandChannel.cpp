@@ -32,7 +32,7 @@ void ShowMainWindow(Program& program) { program.windows.frmMain->Show(); }
 
 void LoadAndShowToolbar(Program& program) {
   program.windows.frmMain->Hide();
-  program.windows.frmcustom->EnsureLoaded();
+  program.windows.frmcustom.EnsureLoaded();
   program.windows.frmcustom->Show();
 }
 

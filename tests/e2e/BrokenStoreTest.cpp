@@ -144,6 +144,18 @@ TEST_F(BrokenStoreTest, AMarkerOfNoBytesIsARunTimeErrorAndTheWindowStaysUsable) 
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
 }
 
+// The box holds the start up before the first idle moment, and the main window has not shown yet.
+TEST_F(BrokenStoreTest, ABoxOfAHiddenStartFindsTheChannelOpen) {
+  Write(HKEY_CURRENT_USER, BlockSettings, "BpID", Text(""));
+  Running program("/customtoolbar");
+  const auto box = program.WaitForBox();
+  ASSERT_TRUE(box);
+  EXPECT_FALSE(program.IsVisible("frmMain"));
+  ASSERT_NE(program.Find("frmMain.cmdDummy"), nullptr);
+  EXPECT_EQ(program.TextOf("frmMain.cmdDummy"), "Ready for command");
+  ASSERT_TRUE(program.Answer(*box));
+}
+
 TEST_F(BrokenStoreTest, AMarkerOfTwoThousandBytesIsAFirstRun) {
   Write(HKEY_CURRENT_USER, BlockSettings, "BpID", Text(std::string(2000, 'x')));
   Running program;

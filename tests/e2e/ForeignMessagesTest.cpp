@@ -87,6 +87,33 @@ TEST_F(ForeignMessagesTest, NoneOfThemCostsAWindowOrASetting) {
   EXPECT_TRUE(program.WaitUntilVisible("frmMain", false));
 }
 
+// Texts that are none, empty or long, and halves of a click or a key press.
+TEST_F(ForeignMessagesTest, TextsAndInputWithoutSenseEndNothing) {
+  const Running program;
+  ASSERT_TRUE(program.WaitUntilIdle());
+  const std::vector<std::string> names = NamesOf(program);
+  const auto toAll = [&](UINT message, WPARAM first, LPARAM second) {
+    for (const auto& [name, window] : program.Named()) {
+      DWORD_PTR answer = 0;
+      SendMessageTimeoutA(window, message, first, second, SMTO_ABORTIFHUNG, DefaultBound, &answer);
+    }
+    EXPECT_TRUE(program.Alive()) << message;
+    EXPECT_TRUE(program.Answers()) << message;
+    EXPECT_EQ(NamesOf(program), names) << message;
+  };
+  const std::string text(20000, 'x');
+  for (const char* sent : {static_cast<const char*>(nullptr), "", text.c_str()}) {
+    toAll(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(sent));
+  }
+  for (const UINT input : {WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP, WM_MBUTTONUP}) {
+    toAll(input, 0, MAKELPARAM(3, 3));
+  }
+  for (const UINT input : {WM_KEYUP, WM_KEYDOWN, WM_CHAR, WM_SYSKEYUP}) toAll(input, 0xFF, 1);
+  toAll(WM_MOUSEWHEEL, MAKEWPARAM(0, 0x8000), MAKELPARAM(-1, -1));
+  program.ChooseMenu("MnuExit");
+  EXPECT_TRUE(program.WaitForExit());
+}
+
 TEST_F(ForeignMessagesTest, AWindowThatAnotherProgramHidesComesBackByTheTray) {
   const Running program;
   ASSERT_TRUE(program.WaitUntilIdle());

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "forms/Controls.h"
-#include "forms/Keys.h"
 #include "forms/UserControl.h"
 #include "forms/win32/AwaitedPeer.h"
 #include "forms/win32/FormLayout.h"
@@ -12,7 +11,7 @@
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Painting.h"
 #include "forms/win32/SystemRoutine.h"
-#include "forms/win32/TimerWindow.h"
+#include "forms/win32/TimerPeer.h"
 #include "forms/win32/WindowMaker.h"
 
 namespace vantrel::forms::win32 {
@@ -251,16 +250,8 @@ void FormWindow::PopupMenu(Menu& menu) {
 }
 
 void FormWindow::RunModal() {
-  modal_ = true;
-  for (const Form* other : System().LoadedForms()) {
-    const auto window = HandleOf(*other);
-    if (other == &form_ || GetAncestor(window, GA_ROOT) != window || !IsWindowEnabled(window)) {
-      continue;
-    }
-    disabled_.push_back(window);
-    EnableWindow(window, FALSE);
-  }
-  System().RunWhile([this] { return modal_ && Alive(); });
+  modality_.Begin(System(), *this);
+  System().RunWhile([this] { return modality_.Holds() && Alive(); });
   EndModal();
   System().ThrowIfEnding();
 }
@@ -271,11 +262,9 @@ void FormWindow::Close() {
   Destroy();
 }
 
-// Before the dialog goes, since Windows would else activate another program's window.
 void FormWindow::EndModal() {
   // The loop that waits for it looks again.
-  if (std::exchange(modal_, false) && Alive()) PostMessageA(Handle(), WM_NULL, 0, 0);
-  for (const HWND window : std::exchange(disabled_, {})) EnableWindow(window, TRUE);
+  if (modality_.End() && Alive()) PostMessageA(Handle(), WM_NULL, 0, 0);
 }
 
 void FormWindow::LayOut() {
@@ -298,30 +287,6 @@ void FormWindow::Resized(WPARAM kind) {
   const int width = twips(WidthOf(area), form_.Width());
   const int height = twips(HeightOf(area), form_.Height());
   System().Raise([&] { form_.UserResizes(width, height, state); });
-}
-
-// What was focused when the window was left, or its first stop.
-void FormWindow::RestoreFocus() {
-  if (lastFocus_ != nullptr && IsChild(Handle(), lastFocus_) && IsWindowVisible(lastFocus_) &&
-      IsWindowEnabled(lastFocus_)) {
-    ::SetFocus(lastFocus_);
-    return;
-  }
-  const Control* first = NextStop(nullptr, false);
-  // In a dialog Enter is to answer, not to follow a link.
-  if (dynamic_cast<const Label*>(first) != nullptr && !IsMain()) {
-    if (const Control* answer = DefaultButton(form_)) first = answer;
-  }
-  if (first != nullptr) ::SetFocus(HandleOf(*first));
-}
-
-// A panel that goes with the focus in it hands it to the window around it.
-void FormWindow::LeaveFocus() {
-  if (!IsPanel() || !IsChild(Handle(), GetFocus())) return;
-  const HWND root = GetAncestor(Handle(), GA_ROOT);
-  const auto around = System().FindForm(root);
-  const Control* next = around != nullptr ? around->NextStop(nullptr, false) : nullptr;
-  ::SetFocus(next != nullptr ? HandleOf(*next) : root);
 }
 
 void FormWindow::SchemeChanged(UINT message) {
@@ -392,33 +357,6 @@ void FormWindow::Moved(const WINDOWPOS& change) {
   if (visible == form_.Visible() || (!visible && GoesWithOwner())) return;
   if (visible && !std::exchange(placed_, true)) Center();
   System().Raise([&] { form_.UserShows(visible); });
-}
-
-// What moves the focus within the window, or from it and to it.
-bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
-  switch (message) {
-    case WM_SETFOCUS:
-      RestoreFocus();
-      return true;
-    case WM_NEXTDLGCTL: {
-      const bool isHandle = LOWORD(second) != 0;
-      const Control* next = isHandle ? nullptr : NextStop(System().Focus(), first != 0);
-      const auto window = isHandle          ? reinterpret_cast<HWND>(first)
-                          : next != nullptr ? HandleOf(*next)
-                                            : Handle();
-      ::SetFocus(window);
-      return true;
-    }
-    case WM_ACTIVATE:
-      if (LOWORD(first) != WA_INACTIVE) {
-        System().Raise([this] { form_.BecomesActive(); });
-      } else if (IsChild(Handle(), GetFocus())) {
-        lastFocus_ = GetFocus();
-      }
-      return false;
-    default:
-      return false;
-  }
 }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {

@@ -8,6 +8,7 @@
 
 #include "forms/Form.h"
 #include "forms/win32/MenuBar.h"
+#include "forms/win32/Modality.h"
 #include "forms/win32/ToolTips.h"
 #include "forms/win32/Window.h"
 
@@ -77,8 +78,7 @@ class FormWindow : public Window {
   MenuBar menus_;
   ToolTips tips_;
   HWND lastFocus_ = nullptr;
-  std::vector<HWND> disabled_;  // by a modal dialog, while it runs
-  bool modal_ = false;
+  Modality modality_;
   bool placed_ = false;
   bool made_ = false;  // the controls' windows
 };

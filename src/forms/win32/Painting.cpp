@@ -13,25 +13,25 @@ TRIVERTEX Corner(LONG x, LONG y, COLORREF color) {
   return {x, y, part(GetRValue(color)), part(GetGValue(color)), part(GetBValue(color)), 0};
 }
 
-std::unique_ptr<PaintSheet> NewSheet(HDC screen, SIZE size) {
-  auto sheet = std::make_unique<PaintSheet>();
-  sheet->Picture = Bitmap(CreateCompatibleBitmap(screen, size.cx, size.cy));
-  sheet->Context = MemoryContext(CreateCompatibleDC(screen));
+std::unique_ptr<BackBuffer> NewBackBuffer(HDC screen, SIZE size) {
+  auto buffer = std::make_unique<BackBuffer>();
+  buffer->Picture = Bitmap(CreateCompatibleBitmap(screen, size.cx, size.cy));
+  buffer->Context = MemoryContext(CreateCompatibleDC(screen));
   // Without a picture it is of no size, and the next paint tries anew.
-  if (sheet->Picture) sheet->Size = size;
-  SelectObject(sheet->Context.Get(), sheet->Picture.Get());
-  return sheet;
+  if (buffer->Picture) buffer->Size = size;
+  SelectObject(buffer->Context.Get(), buffer->Picture.Get());
+  return buffer;
 }
 
 }  // namespace
 
-PaintBuffer::PaintBuffer(HWND window, std::unique_ptr<PaintSheet>& kept)
-    : window_(window), screen_(BeginPaint(window, &paint_)), kept_(kept), sheet_(std::move(kept)) {
+PaintBuffer::PaintBuffer(HWND window, std::unique_ptr<BackBuffer>& kept)
+    : window_(window), screen_(BeginPaint(window, &paint_)), kept_(kept), buffer_(std::move(kept)) {
   const RECT& area = paint_.rcPaint;
   const SIZE wanted{std::max(WidthOf(area), 1), std::max(HeightOf(area), 1)};
-  const SIZE held = sheet_ ? sheet_->Size : SIZE{};
+  const SIZE held = buffer_ ? buffer_->Size : SIZE{};
   if (wanted.cx > held.cx || wanted.cy > held.cy) {
-    sheet_ = NewSheet(screen_, {std::max(wanted.cx, held.cx), std::max(wanted.cy, held.cy)});
+    buffer_ = NewBackBuffer(screen_, {std::max(wanted.cx, held.cx), std::max(wanted.cy, held.cy)});
   }
   const Region shown(CreateRectRgn(0, 0, wanted.cx, wanted.cy));
   SelectClipRgn(Context(), shown.Get());
@@ -42,7 +42,7 @@ PaintBuffer::~PaintBuffer() {
   const RECT& area = paint_.rcPaint;
   BitBlt(screen_, area.left, area.top, area.right - area.left, area.bottom - area.top, Context(),
          area.left, area.top, SRCCOPY);
-  kept_ = std::move(sheet_);
+  kept_ = std::move(buffer_);
   EndPaint(window_, &paint_);
 }
 

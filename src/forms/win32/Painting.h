@@ -14,7 +14,7 @@ namespace vantrel::forms::win32 {
 
 // What a PaintBuffer draws on. It is kept from one paint to the next, since making it takes longer
 // than most paints.
-struct PaintSheet {
+struct BackBuffer {
   Bitmap Picture;
   MemoryContext Context;  // goes before the picture that is selected in it
   SIZE Size{};
@@ -23,20 +23,20 @@ struct PaintSheet {
 // One WM_PAINT: what is drawn into Context appears on the window at once, when this goes.
 class PaintBuffer {
  public:
-  PaintBuffer(HWND window, std::unique_ptr<PaintSheet>& kept);
+  PaintBuffer(HWND window, std::unique_ptr<BackBuffer>& kept);
   PaintBuffer(const PaintBuffer&) = delete;
   PaintBuffer& operator=(const PaintBuffer&) = delete;
   ~PaintBuffer();
 
-  HDC Context() const { return sheet_->Context.Get(); }
+  HDC Context() const { return buffer_->Context.Get(); }
 
  private:
   HWND window_;
   PAINTSTRUCT paint_{};
   HDC screen_;
-  std::unique_ptr<PaintSheet>& kept_;
-  std::unique_ptr<PaintSheet>
-      sheet_;  // in use: a paint within this one finds none and makes its own
+  std::unique_ptr<BackBuffer>& kept_;
+  std::unique_ptr<BackBuffer>
+      buffer_;  // in use: a paint within this one finds none and makes its own
 };
 
 // The inside of a window, from 0, 0.

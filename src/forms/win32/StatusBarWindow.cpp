@@ -108,7 +108,7 @@ LRESULT StatusBarWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT: {
-      const PaintBuffer buffer(Handle(), System().Sheet);
+      const PaintBuffer buffer(Handle(), System().Buffer);
       PaintSurface(buffer.Context(), ClientArea(Handle()));
       return 0;
     }

@@ -159,7 +159,7 @@ LRESULT Window::Reflect(UINT message, WPARAM first, LPARAM second) {
 }
 
 void Window::Paint() {
-  const PaintBuffer buffer(handle_, system_.Sheet);
+  const PaintBuffer buffer(handle_, system_.Buffer);
   PaintSurface(buffer.Context(), ClientArea(handle_));
 }
 

@@ -56,8 +56,8 @@ class WindowSystem final : public Win32Toolkit {
   Colors Palette;
   Fonts Typefaces;
   ImageStrips Images;
-  std::unique_ptr<PaintSheet> Sheet;  // of the paint that is to come
-  bool Destroying = false;            // a window, and with it those below, by the toolkit itself
+  std::unique_ptr<BackBuffer> Buffer;  // of the paint that is to come
+  bool Destroying = false;             // a window, and with it those below, by the toolkit itself
   const UINT TaskbarCreatedMessage;
 
  protected:

@@ -138,7 +138,8 @@ class LookTest : public LookFixture, public testing::WithParamInterface<int> {
       if (GetParam() == DesignDpi) designed[key] = area;
       const auto known = designed.find(key);
       if (known == designed.end() || control.Name == "frmMain.sbStatusBar") continue;
-      if (area.left == Scaled(known->second.left) && area.top == Scaled(known->second.top)) continue;
+      if (area.left == Scaled(known->second.left) && area.top == Scaled(known->second.top))
+        continue;
       found += control.Name + " at " + Show(area) + ", designed " + Show(known->second) + "\n";
     }
     return found;

@@ -72,6 +72,20 @@ TEST_F(SpeedTest, APanelIsPaintedSoonAfterTheClick) {
   EXPECT_LT(median, SwitchBound);
 }
 
+// Nothing half-painted is left for a later message.
+TEST_F(SpeedTest, APanelIsWholeWhenTheClickIsOver) {
+  Start();
+  for (int round = 0; round < 2; ++round) {
+    for (const Screen& screen : Panels) {
+      DWORD_PTR answer = 0;
+      ASSERT_NE(SendMessageTimeoutA(Shown().Find(screen.Opener), BM_CLICK, 0, 0, SMTO_BLOCK,
+                                    DefaultBound, &answer),
+                0);
+      EXPECT_TRUE(IsPainted(Shown().Find(screen.Panel))) << screen.Panel;
+    }
+  }
+}
+
 TEST_F(SpeedTest, AMouseThatRestsOnALinkCostsNothing) {
   Start();
   SetForegroundWindow(Main());

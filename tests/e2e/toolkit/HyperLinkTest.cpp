@@ -5,7 +5,11 @@
 // After windows.h.
 #include <commctrl.h>
 
+#include <algorithm>
+#include <cmath>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -215,6 +219,80 @@ TEST_F(RealLinks, AreClickedByMouseAndKeys) {
   Key(VK_SPACE);
   Key(VK_RETURN);
   EXPECT_EQ(events_, (Events{"Click", "Click", "Click"}));
+}
+
+TEST_F(RealLinks, APressThatLostTheMouseIsNoClick) {
+  SendMessageA(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  ReleaseCapture();
+  SendMessageA(Window(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(events_, Events{});
+}
+
+TEST_F(RealLinks, APressLetGoElsewhereIsOverAtTheNextMove) {
+  SendMessageA(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(Window(), WM_MOUSEMOVE, 0, MAKELPARAM(-50, -50));
+  EXPECT_EQ(GetCapture(), nullptr);
+  SendMessageA(Window(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(events_, Events{});
+}
+
+TEST_F(RealLinks, PassOnEveryButtonWithItsPlace) {
+  const auto note = [this](const std::string& what) {
+    return [this, what](int button, int shift, float x, float y) {
+      const double unit = toolkit_->TwipsPerPixelX();
+      events_.push_back(what + " " + std::to_string(button) + " " + std::to_string(shift) + " " +
+                        std::to_string(std::lround(x / unit)) + "," +
+                        std::to_string(std::lround(y / unit)));
+    };
+  };
+  Link().MouseDown = note("down");
+  Link().MouseUp = note("up");
+  SendMessageA(Window(), WM_RBUTTONDOWN, MK_RBUTTON | MK_SHIFT, MAKELPARAM(4, 6));
+  SendMessageA(Window(), WM_RBUTTONUP, MK_CONTROL, MAKELPARAM(5, 7));
+  SendMessageA(Window(), WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(1, 2));
+  SendMessageA(Window(), WM_MBUTTONUP, 0, MAKELPARAM(1, 2));
+  SendMessageA(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 3));
+  SendMessageA(Window(), WM_LBUTTONUP, 0, MAKELPARAM(2, 3));
+  EXPECT_EQ(events_, (Events{"down 2 1 4,6", "up 2 2 5,7", "down 4 0 1,2", "up 4 0 1,2",
+                             "down 1 0 2,3", "up 1 0 2,3", "Click"}));
+}
+
+TEST_F(RealLinks, ShowTheHandAsSoonAsTheyHover) {
+  const HCURSOR hand = LoadCursorA(nullptr, IDC_HAND);
+  SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+  ASSERT_TRUE(PointAt(5, 5));
+  EXPECT_EQ(GetCursor(), hand);
+  // An hourglass on the way leaves it as it was.
+  toolkit_->SetScreenPointer(PointerHourglass);
+  EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_WAIT));
+  toolkit_->SetScreenPointer(PointerDefault);
+  EXPECT_EQ(GetCursor(), hand);
+}
+
+TEST_F(RealLinks, OpenTheirAddressThenTell) {
+  char folder[MAX_PATH] = "";
+  GetTempPathA(sizeof folder, folder);
+  const std::string record = std::string(folder) + "opened-address.txt";
+  DeleteFileA(record.c_str());
+  SetEnvironmentVariableA("VANTREL_RECORD", record.c_str());
+  std::string program = VANTREL_RECORDING_BROWSER;
+  std::replace(program.begin(), program.end(), '/', '\\');
+  Link().SetHyperLink(program);
+  Link().Click = [this] {
+    events_.push_back("Click under pointer " + std::to_string(toolkit_->ScreenPointer()));
+  };
+  SendMessageA(Window(), BM_CLICK, 0, 0);
+  EXPECT_EQ(events_, Events{"Click under pointer 0"});
+  const auto recorded = [&record] {
+    std::ifstream file(record, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  };
+  EXPECT_TRUE(Await([&] { return recorded().find("\r\n") != std::string::npos; }));
+  // The state of a normal window, and nothing behind the address.
+  EXPECT_EQ(recorded().substr(0, 2), "1 ");
+  EXPECT_NE(recorded().find("recording-browser.exe"), std::string::npos);
+  SetEnvironmentVariableA("VANTREL_RECORD", nullptr);
+  DeleteFileA(record.c_str());
 }
 
 TEST_F(RealLinks, ShowTheirAddressAsToolTip) {

@@ -5,6 +5,7 @@
 // After windows.h.
 #include <commctrl.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -527,11 +528,73 @@ TEST_F(RealWindows, AModalDialogDisablesTheOthersAndAnswersToItsKeys) {
   EXPECT_TRUE(IsWindowEnabled(HandleOf(form)));
 }
 
-// The low half of a handle grows with every object that was not freed.
-unsigned NextBrush() {
-  const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
-  DeleteObject(brush);
-  return static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(brush) & 0xFFFFU);
+TEST_F(RealWindows, APressThatLostTheMouseIsNoClickOfALink) {
+  int clicks = 0;
+  form.Link.Click = [&] { ++clicks; };
+  const HWND link = HandleOf(form.Link);
+  SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  ReleaseCapture();
+  SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  SendMessageA(link, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+  SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  EXPECT_EQ(clicks, 0);
+  SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  SendMessageA(link, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(4, 4));
+  SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(RealWindows, AControlThatDoesNotTakeTheFocusLeavesItWhereItWas) {
+  form.Pick.SetFocus();
+  form.Pick.SetListIndex(0);
+  form.Pick.Validate = [](bool& keep) { keep = true; };
+  const HWND before = GetFocus();
+  SetFocus(HandleOf(form.Name));
+  EXPECT_EQ(GetFocus(), before);
+  EXPECT_EQ(toolkit->Focus(), &form.Pick);
+}
+
+// A window that erases its ground before it paints shows that ground for a moment.
+TEST_F(RealWindows, OwnWindowsEraseNothing) {
+  const HDC screen = GetDC(nullptr);
+  const HDC context = CreateCompatibleDC(screen);
+  const HBITMAP picture = CreateCompatibleBitmap(screen, 50, 50);
+  ReleaseDC(nullptr, screen);
+  const HGDIOBJ before = SelectObject(context, picture);
+  for (const HWND window : {HandleOf(form), HandleOf(form.Link), HandleOf(form.Group),
+                            HandleOf(form.Bars), HandleOf(form.Own)}) {
+    PatBlt(context, 0, 0, 50, 50, WHITENESS);
+    EXPECT_NE(SendMessageA(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0), 0)
+        << NameOf(window);
+    EXPECT_EQ(GetPixel(context, 5, 5), RGB(255, 255, 255)) << NameOf(window);
+  }
+  SelectObject(context, before);
+  DeleteObject(picture);
+  DeleteDC(context);
+}
+
+TEST_F(RealWindows, AControlOfAHiddenWindowIsThereWhenItsHandleIsAskedFor) {
+  Question hidden(*toolkit);
+  hidden.EnsureLoaded();
+  EXPECT_EQ(FindWindowExA(HandleOf(hidden), nullptr, "Button", "Yes"), nullptr);
+  const HWND yes = HandleOf(hidden.Yes);
+  EXPECT_NE(yes, nullptr);
+  EXPECT_EQ(FindWindowExA(HandleOf(hidden), nullptr, "Button", "Yes"), yes);
+  hidden.Unload();
+}
+
+// The low half of a handle is its place among all objects: behind so many new ones no gap is left,
+// and the last place grows with every object that was not freed.
+unsigned LastPlace() {
+  std::vector<HBRUSH> brushes(512);
+  unsigned last = 0;
+  for (HBRUSH& brush : brushes) {
+    brush = CreateSolidBrush(RGB(1, 2, 3));
+    last = std::max(last, static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(brush) & 0xFFFFU));
+  }
+  for (const HBRUSH brush : brushes) DeleteObject(brush);
+  return last;
 }
 
 TEST_F(RealWindows, NothingIsLeftOfAWindowThatWasUnloaded) {
@@ -542,9 +605,9 @@ TEST_F(RealWindows, NothingIsLeftOfAWindowThatWasUnloaded) {
     question.Unload();
   };
   cycle();
-  const unsigned before = NextBrush();
+  const unsigned before = LastPlace();
   for (int count = 0; count < 50; ++count) cycle();
-  EXPECT_LE(NextBrush(), before + 8);
+  EXPECT_LE(LastPlace(), before + 8);
 }
 
 }  // namespace

@@ -39,8 +39,8 @@ class BlockingState : public test::RoomFixture {
   void Settle() {
     Welcome();
     General();
-    *program.windows.FrmFrameBlockPreferences;
-    *program.windows.FrmFrameNotification;
+    program.windows.FrmFrameBlockPreferences.EnsureLoaded();
+    program.windows.FrmFrameNotification.EnsureLoaded();
     process.Trace().Clear();
   }
 };

@@ -24,8 +24,8 @@ class WelcomePanel : public test::RoomFixture {
     AttachBlocking(program);
     settings::CheckAndCreateRegitry(program);
     Panel();
-    *program.windows.FrmFrameGraph;
-    *program.windows.FrmFrameLog;
+    program.windows.FrmFrameGraph.EnsureLoaded();
+    program.windows.FrmFrameLog.EnsureLoaded();
     process.Trace().Clear();
   }
 

@@ -1,6 +1,6 @@
 // Timers of the models, run as timers of their form's window.
-#ifndef VANTREL_FORMS_WIN32_TIMERWINDOW_H_
-#define VANTREL_FORMS_WIN32_TIMERWINDOW_H_
+#ifndef VANTREL_FORMS_WIN32_TIMERPEER_H_
+#define VANTREL_FORMS_WIN32_TIMERPEER_H_
 
 #include <windows.h>
 
@@ -20,4 +20,4 @@ void TimerFires(WindowSystem& system, const Form& form, int identifier);
 
 }  // namespace vantrel::forms::win32
 
-#endif  // VANTREL_FORMS_WIN32_TIMERWINDOW_H_
+#endif  // VANTREL_FORMS_WIN32_TIMERPEER_H_

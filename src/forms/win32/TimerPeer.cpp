@@ -1,4 +1,4 @@
-#include "forms/win32/TimerWindow.h"
+#include "forms/win32/TimerPeer.h"
 
 #include <utility>
 

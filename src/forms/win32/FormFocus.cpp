@@ -1,0 +1,95 @@
+#include <algorithm>
+
+#include "forms/Controls.h"
+#include "forms/Keys.h"
+#include "forms/win32/FormWindow.h"
+#include "forms/win32/HandleOf.h"
+
+namespace vantrel::forms::win32 {
+
+std::shared_ptr<FormWindow> FormWindow::TopPanel() const {
+  for (HWND child = GetTopWindow(Handle()); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    auto panel = System().FindForm(child);
+    if (panel != nullptr && IsWindowVisible(child)) return panel;
+  }
+  return nullptr;
+}
+
+bool FormWindow::IsCovered(const Control& control, const FormWindow& panel) const {
+  RECT area{};
+  RECT cover{};
+  RECT common{};
+  if (!GetWindowRect(HandleOf(control), &area) || !GetWindowRect(panel.Handle(), &cover)) {
+    return false;
+  }
+  return IntersectRect(&common, &area, &cover) && EqualRect(&common, &area);
+}
+
+std::vector<Control*> FormWindow::TabStops() const {
+  const auto panel = TopPanel();
+  std::vector<Control*> stops = form_.TabOrder();
+  std::erase_if(stops, [&](const Control* stop) {
+    if (!IsWindow(HandleOf(*stop))) return true;
+    if (&stop->Owner() == &form_) return panel != nullptr && IsCovered(*stop, *panel);
+    return panel == nullptr || &stop->Owner() != &panel->Model();
+  });
+  return stops;
+}
+
+Control* FormWindow::NextStop(const Control* from, bool backwards) const {
+  return forms::NextStop(TabStops(), from, backwards);
+}
+
+// What was focused when the window was left, or its first stop.
+void FormWindow::RestoreFocus() {
+  if (lastFocus_ != nullptr && IsChild(Handle(), lastFocus_) && IsWindowVisible(lastFocus_) &&
+      IsWindowEnabled(lastFocus_)) {
+    ::SetFocus(lastFocus_);
+    return;
+  }
+  const Control* first = NextStop(nullptr, false);
+  // In a dialog Enter is to answer, not to follow a link.
+  if (dynamic_cast<const Label*>(first) != nullptr && !IsMain()) {
+    if (const Control* answer = DefaultButton(form_)) first = answer;
+  }
+  if (first != nullptr) ::SetFocus(HandleOf(*first));
+}
+
+// A panel that goes with the focus in it hands it to the window around it.
+void FormWindow::LeaveFocus() {
+  if (!IsPanel() || !IsChild(Handle(), GetFocus())) return;
+  const HWND root = GetAncestor(Handle(), GA_ROOT);
+  const auto around = System().FindForm(root);
+  const Control* next = around != nullptr ? around->NextStop(nullptr, false) : nullptr;
+  ::SetFocus(next != nullptr ? HandleOf(*next) : root);
+}
+
+// What moves the focus within the window, or from it and to it.
+bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_SETFOCUS:
+      RestoreFocus();
+      return true;
+    case WM_NEXTDLGCTL: {
+      const bool isHandle = LOWORD(second) != 0;
+      const Control* next = isHandle ? nullptr : NextStop(System().Focus(), first != 0);
+      const auto window = isHandle          ? reinterpret_cast<HWND>(first)
+                          : next != nullptr ? HandleOf(*next)
+                                            : Handle();
+      ::SetFocus(window);
+      return true;
+    }
+    case WM_ACTIVATE:
+      if (LOWORD(first) != WA_INACTIVE) {
+        System().Raise([this] { form_.BecomesActive(); });
+      } else if (IsChild(Handle(), GetFocus())) {
+        lastFocus_ = GetFocus();
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
+}  // namespace vantrel::forms::win32
