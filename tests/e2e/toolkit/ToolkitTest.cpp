@@ -553,6 +553,11 @@ TEST_F(RealWindows, AControlThatDoesNotTakeTheFocusLeavesItWhereItWas) {
   SetFocus(HandleOf(form.Name));
   EXPECT_EQ(GetFocus(), before);
   EXPECT_EQ(toolkit->Focus(), &form.Pick);
+  // Nor does it go on as if it had it.
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  ASSERT_TRUE(GetGUIThreadInfo(GetCurrentThreadId(), &info));
+  EXPECT_NE(info.hwndCaret, HandleOf(form.Name));
 }
 
 // A window that erases its ground before it paints shows that ground for a moment.
