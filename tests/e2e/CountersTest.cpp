@@ -85,7 +85,7 @@ TEST_F(CountersTest, TheChartKeepsTheNumbersOfTheStart) {
   Running program;
   ASSERT_TRUE(program.WaitUntilIdle());
   const std::string chart = program.TextOf("FrmFrameGraph.MSChart1");
-  EXPECT_EQ(chart, "System 3, GDI 1, User 4, C4 1, C5 5");
+  EXPECT_EQ(chart, "Blocked ads by kind: 3, 1, 4, 1, 5");
   Count({9, 9, 9, 9, 9});
   program.MouseClick("frmMain.LnkGraph");
   ASSERT_TRUE(program.WaitUntilVisible("FrmFrameGraph"));

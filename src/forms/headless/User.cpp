@@ -119,10 +119,16 @@ bool User::Tab(bool backwards) {
   return moved;
 }
 
+// What has the focus, unless that lies behind the active window.
+Control* User::Focused() const {
+  Control* focus = toolkit_.Focus();
+  return focus != nullptr && &focus->Owner().Outermost() == ActiveWindow() ? focus : nullptr;
+}
+
 bool User::Enter() {
   const Form* window = ActiveWindow();
   if (window == nullptr) return false;
-  Control* focused = toolkit_.Focus();
+  Control* focused = Focused();
   if (KeepsEnter(focused)) return Follow(*focused);
   if (auto* button = dynamic_cast<CommandButton*>(focused)) return Click(*button);
   CommandButton* button = DefaultButton(*window);
@@ -130,7 +136,7 @@ bool User::Enter() {
 }
 
 bool User::Space() {
-  Control* focused = toolkit_.Focus();
+  Control* focused = Focused();
   if (focused == nullptr) return false;
   if (auto* list = dynamic_cast<ListView*>(focused)) {
     const int row = list->SelectedIndex();

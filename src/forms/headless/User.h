@@ -56,6 +56,7 @@ class User {
   bool Focus(Control& control);
   bool Follow(Control& link);
   Form* ActiveWindow() const;
+  Control* Focused() const;
   void At(const std::function<void()>& event) { toolkit_.AtBorder(event); }
 
   Toolkit& toolkit_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "forms/win32/Painting.h"
 
@@ -41,17 +42,17 @@ WindowShape ChartWindow::Shape() const {
 }
 
 std::string ChartWindow::InWords() const {
-  std::string words;
+  std::string words = chart_.WindowText();
+  const char* before = words.empty() ? "" : ": ";
   for (const ChartColumn& column : chart_.Columns()) {
-    if (!words.empty()) words += ", ";
-    words += column.Label + " " + Whole(ValueOf(column));
+    words += std::exchange(before, ", ") + Whole(ValueOf(column));
   }
   return words;
 }
 
 void ChartWindow::Changed(Aspect aspect) {
-  if (aspect == Aspect::Text) return;
-  if (aspect != Aspect::Items && aspect != Aspect::Value) return ControlWindow::Changed(aspect);
+  const bool isSaid = aspect == Aspect::Text || aspect == Aspect::Items || aspect == Aspect::Value;
+  if (!isSaid) return ControlWindow::Changed(aspect);
   const std::string words = InWords();
   if (words == ShownText()) return;
   Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(words.c_str()));

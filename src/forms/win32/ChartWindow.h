@@ -18,6 +18,7 @@ class ChartWindow final : public ControlWindow {
   WindowShape Shape() const override;
 
  private:
+  // What it is called and its values: "Blocked ads: 3, 12".
   std::string InWords() const;
   RECT PlotArea(const RECT& area) const;
   void PaintGrid(HDC context, const RECT& plot, double step, double top) const;

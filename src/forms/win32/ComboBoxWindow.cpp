@@ -87,12 +87,19 @@ LRESULT ComboBoxWindow::OnCommand(WPARAM first, LPARAM) {
   return 0;
 }
 
+// By a message from outside, for the model as well; none for -1.
+LRESULT ComboBoxWindow::Select(int index) {
+  if (index < -1 || index >= box_.ListCount()) return CB_ERR;
+  Raise([&] { box_.SetListIndex(index); });
+  return index;
+}
+
 LRESULT ComboBoxWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
-  if (message == CB_SETCURSEL && !IsTelling()) {
-    const auto index = static_cast<int>(static_cast<LONG_PTR>(first));
-    if (index < -1 || index >= box_.ListCount()) return CB_ERR;
-    Raise([&] { box_.SetListIndex(index); });
-    return index;
+  if (IsTelling()) return ControlWindow::OnMessage(message, first, second);
+  if (message == CB_SETCURSEL) return Select(static_cast<int>(static_cast<LONG_PTR>(first)));
+  if (message == CB_SELECTSTRING) {
+    const LRESULT found = second != 0 ? Tell(CB_FINDSTRING, first, second) : CB_ERR;
+    return found >= 0 ? Select(static_cast<int>(found)) : CB_ERR;
   }
   return ControlWindow::OnMessage(message, first, second);
 }

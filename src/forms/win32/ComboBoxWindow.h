@@ -23,6 +23,7 @@ class ComboBoxWindow final : public ControlWindow {
  private:
   void Fit();
   void ShowSelection();
+  LRESULT Select(int index);
 
   ComboBox& box_;
 };

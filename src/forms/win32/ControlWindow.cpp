@@ -178,23 +178,30 @@ bool ControlWindow::HasMouse(LPARAM position) const {
                           static_cast<short>(HIWORD(position))}) != FALSE;
 }
 
-bool ControlWindow::CompletesClick(UINT message, LPARAM position, bool takesFocus) {
-  if (!Alive()) return false;
-  if (message != WM_LBUTTONUP) {
-    if (takesFocus) ::SetFocus(Handle());
-    if (!Alive()) return false;
-    SetCapture(Handle());
-    pressed_ = true;
-    return false;
-  }
+void ControlWindow::BeginPress(bool takesFocus) {
+  const LONG time = GetMessageTime();
+  if (takesFocus) ::SetFocus(Handle());
+  // What the focus led to may have brought up a box: with it the button was let go.
+  if (!Alive() || GetMessageTime() != time) return;
+  SetCapture(Handle());
+  pressed_ = true;
+}
+
+// Whether it is a click.
+bool ControlWindow::EndPress(LPARAM position) {
   if (!std::exchange(pressed_, false)) return false;
   ReleaseCapture();
   return Alive() && HasMouse(position);
 }
 
-// The move of the focus may have brought a box up, and the button was let go there.
-void ControlWindow::EndPressUnlessHeld(WPARAM keys) {
-  if (pressed_ && (keys & MK_LBUTTON) == 0) ReleaseCapture();
+LRESULT ControlWindow::FollowButton(UINT message, WPARAM first, LPARAM second, bool takesFocus,
+                                    const std::function<void()>& click) {
+  // Before the events, whose handlers may take the mouse away.
+  const bool clicked = message == WM_LBUTTONUP && EndPress(second);
+  const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+  if (Alive() && message != WM_LBUTTONUP) BeginPress(takesFocus);
+  if (Alive() && clicked) Raise(click);
+  return answer;
 }
 
 void ControlWindow::RaiseMouse(UINT message, WPARAM keys, LPARAM position) {
@@ -247,7 +254,6 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       }
       break;
     case WM_MOUSEMOVE:
-      EndPressUnlessHeld(first);
       if (!tipped_) ShowTip();
       RaiseMouse(message, first, second);
       break;

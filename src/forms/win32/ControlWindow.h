@@ -55,13 +55,15 @@ class ControlWindow : public Window {
   HBRUSH OnInputColor(HDC context);
   void DrawHouseBorder();
   bool HasMouse(LPARAM position) const;
-  // Follows the left button over a control that Windows knows no clicks of, by its messages: true
-  // when it is let go over the control that it was pressed on.
-  bool CompletesClick(UINT message, LPARAM position, bool takesFocus);
-  void EndPressUnlessHeld(WPARAM keys);
+  // The left button's messages to a control that Windows knows no clicks of: raises what every
+  // control does, and `click` when the button is let go over the control that it was pressed on.
+  LRESULT FollowButton(UINT message, WPARAM first, LPARAM second, bool takesFocus,
+                       const std::function<void()>& click);
 
  private:
   RECT Area() const;
+  void BeginPress(bool takesFocus);
+  bool EndPress(LPARAM position);
   void ShowText();
   void ShowVisible();
   void GiveFocusAway();

@@ -33,4 +33,10 @@ LRESULT FileListWindow::OnCommand(WPARAM first, LPARAM) {
   return 0;
 }
 
+LRESULT FileListWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
+  const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+  if (message == WM_NCPAINT && Alive()) DrawHouseBorder();
+  return answer;
+}
+
 }  // namespace vantrel::forms::win32

@@ -14,10 +14,12 @@ class FileListWindow final : public ControlWindow {
   void Changed(Aspect aspect) override;
   void PaintSurface(HDC, const RECT&) override {}
   LRESULT OnCommand(WPARAM first, LPARAM second) override;
+  HBRUSH OnColor(HDC context) override { return OnInputColor(context); }
 
  protected:
   WindowShape Shape() const override;
   void Prepare() override { Changed(Aspect::Items); }
+  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:
   void Fill();

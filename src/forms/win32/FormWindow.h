@@ -34,8 +34,7 @@ class FormWindow : public Window {
   void Activate();
   HICON Icon() const { return System().Images.ProgramIcon(true); }
 
-  // The controls that Tab visits now: the model's order without what lies under another panel
-  // and without the options of a group that are not its selected one.
+  // The controls that Tab visits now: the model's order without what lies under another panel.
   std::vector<Control*> TabStops() const;
   // The stop behind (or before) a control, round about; nullptr if there is none.
   Control* NextStop(const Control* from, bool backwards) const;

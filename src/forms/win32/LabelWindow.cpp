@@ -142,11 +142,8 @@ LRESULT LabelWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       break;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP: {
-      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (CompletesClick(message, second, IsLink())) Raise([this] { label_.UserClick(); });
-      return answer;
-    }
+    case WM_LBUTTONUP:
+      return FollowButton(message, first, second, IsLink(), [this] { label_.UserClick(); });
     case WM_KEYDOWN:
       if (IsLink() && (first == VK_SPACE || first == VK_RETURN)) {
         Raise([this] { label_.UserClick(); });

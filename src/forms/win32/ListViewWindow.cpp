@@ -68,15 +68,14 @@ void ListViewWindow::AddColumns() {
   }
 }
 
-// The last column takes what the others leave of the list's width.
+// The first column takes what the others leave of the list's width.
 void ListViewWindow::FillWidth() {
   const auto count = static_cast<int>(list_.Columns().size());
   int room = WidthOf(ClientArea(Handle()));
-  for (int index = 0; index + 1 < count; ++index) {
+  for (int index = 1; index < count; ++index) {
     room -= static_cast<int>(Tell(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
   }
-  const auto last = static_cast<WPARAM>(count - 1);
-  if (count > 0 && room > 0) Tell(LVM_SETCOLUMNWIDTH, last, MAKELPARAM(room, 0));
+  if (count > 0 && room > 0) Tell(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(room, 0));
 }
 
 void ListViewWindow::ShowColors() {
@@ -137,13 +136,13 @@ void ListViewWindow::Gather() {
 
 void ListViewWindow::ShowRows() {
   gathering_ = false;
-  if (count_ != list_.Count()) {
-    count_ = list_.Count();
-    Tell(LVM_SETITEMCOUNT, static_cast<WPARAM>(count_), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+  const int count = list_.Count();
+  if (static_cast<int>(Tell(LVM_GETITEMCOUNT)) != count) {
+    Tell(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
   }
   const auto top = static_cast<int>(Tell(LVM_GETTOPINDEX));
   const auto page = static_cast<int>(Tell(LVM_GETCOUNTPERPAGE));
-  const int behind = std::min(count_, top + page + 1);
+  const int behind = std::min(count, top + page + 1);
   for (int row = top; row < behind; ++row) {
     const auto known = shown_.find(row);
     if (known != shown_.end() && known->second == RowAsShown(row)) continue;
@@ -316,6 +315,14 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
           AssignState(static_cast<int>(first), *reinterpret_cast<const LVITEMA*>(second))) {
         return TRUE;
       }
+      break;
+    case LVM_DELETEALLITEMS:
+    case LVM_DELETEITEM:
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_SETITEMCOUNT:
+      // The rows are the model's: another program neither takes nor adds any.
+      if (!IsTelling()) return message == LVM_INSERTITEMA || message == LVM_INSERTITEMW ? -1 : 0;
       break;
     case WM_KEYDOWN:
     case WM_CHAR:

@@ -53,7 +53,6 @@ class ListViewWindow final : public ControlWindow {
   ImagesHandle checkMarks_;
   // The rows that were asked for since they last changed, 0-based.
   std::unordered_map<int, std::string> shown_;
-  int count_ = 0;
   int told_ = 0;  // the row that the last change of selection was raised for, until the click
   bool gathering_ = false;
 };

@@ -16,6 +16,7 @@ class ProgressWindow final : public ControlWindow {
   WindowShape Shape() const override;
   bool IsSpokenByName() const override { return true; }
   void Prepare() override { Changed(Aspect::Value); }
+  LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:
   ProgressBar& bar_;

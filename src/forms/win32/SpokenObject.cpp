@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/win32/SpokenName.h"
+#include "forms/SpokenName.h"
 #include "forms/win32/SystemRoutine.h"
 
 namespace vantrel::forms::win32 {

@@ -123,13 +123,9 @@ LRESULT UserControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) 
   switch (message) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP: {
-      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      if (CompletesClick(message, second, true)) Raise([this] { Face().UserClick(); });
-      return answer;
-    }
+    case WM_LBUTTONUP:
+      return FollowButton(message, first, second, true, [this] { Face().UserClick(); });
     case WM_MOUSEMOVE:
-      EndPressUnlessHeld(first);
       // While a button is held the mouse is told here wherever it is. Outside it is not over the
       // face: taken for that, it would begin a hover that the next look at the mouse ends again.
       if (!HasMouse(second)) return Window::OnMessage(message, first, second);

@@ -15,6 +15,11 @@ class ColourTest : public LookFixture {
       return OnScreen(FindWindowExA(control.Window, nullptr, "SysHeader32", nullptr));
     }
     if (control.Text.empty()) return {};
+    if (control.Kind == "msctls_statusbar32") {
+      // The word before the gradient's end, within the border.
+      const RECT bar = OnScreen(control.Window);
+      return {bar.left + 4, bar.top + 4, bar.left + 50, bar.bottom - 3};
+    }
     if (control.Kind == "ComboBox") {
       COMBOBOXINFO info{};
       info.cbSize = sizeof info;
@@ -31,7 +36,10 @@ class ColourTest : public LookFixture {
     const bool isContainer =
         (GetWindowLongA(control.Window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
     const bool hasCaption = control.Kind == "Button" || control.Kind == "VantrelWindow";
-    return hasCaption && !isContainer ? OnScreen(control.Window) : RECT{};
+    if (!hasCaption) return {};
+    const RECT area = OnScreen(control.Window);
+    // A frame's line is interrupted for its caption.
+    return isContainer ? RECT{area.left + 12, area.top, area.left + 40, area.top + 15} : area;
   }
 
   // A caption in the middle of a gradient is measured against its commonest colour.
@@ -48,16 +56,34 @@ class ColourTest : public LookFixture {
     return found;
   }
 
+  void ExpectReadable(const std::string& form) const {
+    std::string unreadable;
+    EXPECT_TRUE(WaitFor([&] { return (unreadable = Unreadable(form)).empty(); }, 2000))
+        << form << "\n"
+        << unreadable;
+  }
+
+  void ExpectDialogReadable(const std::string& entry, const std::string& form) const {
+    Shown().Choose(entry);
+    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find(form)) != FALSE; })) << form;
+    ExpectReadable(form);
+    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
+  }
+
   void ExpectAllReadable() const {
     for (const Screen& screen : Panels) {
       ASSERT_TRUE(Shown().Open(screen));
-      for (const char* form : {"frmMain", screen.Panel}) {
-        std::string unreadable;
-        EXPECT_TRUE(WaitFor([&] { return (unreadable = Unreadable(form)).empty(); }, 2000))
-            << form << "\n"
-            << unreadable;
-      }
+      ExpectReadable("frmMain");
+      ExpectReadable(screen.Panel);
     }
+    // From a panel that leaves the Welcome panel, which lies above the frame, hidden.
+    ASSERT_TRUE(Shown().Open(Panels[2]));
+    Shown().MouseClick("frmMain.LnkHelp");
+    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
+    ExpectReadable("frmMain");
+    ExpectDialogReadable("submnuAbout", "FrmAbout");
+    ExpectDialogReadable("submnuIEToolbar", "frmcustom");
   }
 };
 

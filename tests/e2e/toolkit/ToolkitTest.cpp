@@ -6,6 +6,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
 #include <vector>
@@ -402,7 +403,92 @@ TEST_F(RealWindows, AUserControlShowsItsFace) {
 TEST_F(RealWindows, AChartSaysItsColumns) {
   form.Bars.SetColumn(2);
   form.Bars.SetData("12");
-  EXPECT_EQ(TextOf(HandleOf(form.Bars)), "Pop 3, Flash 12");
+  EXPECT_EQ(TextOf(HandleOf(form.Bars)), "3, 12");
+  SetText(HandleOf(form.Bars), "Ads");
+  EXPECT_EQ(form.Bars.WindowText(), "Ads");
+  EXPECT_EQ(TextOf(HandleOf(form.Bars)), "Ads: 3, 12");
+}
+
+TEST_F(RealWindows, AProgressSetFromOutsideIsTheModels) {
+  const HWND bar = HandleOf(form.Progress);
+  EXPECT_EQ(SendMessageA(bar, PBM_SETPOS, 40, 0), 0);
+  EXPECT_EQ(form.Progress.Value(), 40);
+  EXPECT_EQ(SendMessageA(bar, PBM_SETPOS, 400, 0), 40);
+  EXPECT_EQ(form.Progress.Value(), 100);
+  EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), 100);
+}
+
+TEST_F(RealWindows, AnEntryChosenByItsTextIsTheModels) {
+  int chosen = 0;
+  form.Pick.Click = [&] { ++chosen; };
+  const HWND pick = HandleOf(form.Pick);
+  const auto select = [&](const char* text) {
+    return SendMessageA(pick, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                        reinterpret_cast<LPARAM>(text));
+  };
+  EXPECT_EQ(select("Gre"), 1);
+  EXPECT_EQ(form.Pick.ListIndex(), 1);
+  EXPECT_EQ(SendMessageA(pick, CB_GETCURSEL, 0, 0), 1);
+  EXPECT_EQ(chosen, 1);
+  EXPECT_EQ(select("Blue"), CB_ERR);
+  EXPECT_EQ(select(nullptr), CB_ERR);
+  EXPECT_EQ(form.Pick.ListIndex(), 1);
+}
+
+TEST_F(RealWindows, AListsRowsAreNotTakenFromOutside) {
+  form.List.Add("one", "One", "");
+  const HWND list = HandleOf(form.List);
+  ASSERT_EQ(SendMessageA(list, LVM_GETITEMCOUNT, 0, 0), 1);
+  SendMessageA(list, LVM_DELETEALLITEMS, 0, 0);
+  SendMessageA(list, LVM_DELETEITEM, 0, 0);
+  SendMessageA(list, LVM_SETITEMCOUNT, 7, 0);
+  EXPECT_EQ(SendMessageA(list, LVM_GETITEMCOUNT, 0, 0), 1);
+}
+
+TEST_F(RealWindows, CheckMarksAreDrawnAnewInANewScheme) {
+  const HWND list = HandleOf(form.List);
+  const LRESULT before = SendMessageA(list, LVM_GETIMAGELIST, LVSIL_STATE, 0);
+  EXPECT_NE(before, 0);
+  SendMessageA(list, WM_SYSCOLORCHANGE, 0, 0);
+  const LRESULT after = SendMessageA(list, LVM_GETIMAGELIST, LVSIL_STATE, 0);
+  EXPECT_NE(after, 0);
+  EXPECT_NE(after, before);
+}
+
+TEST_F(RealWindows, TheFirstColumnTakesTheRoomThatTheOthersLeave) {
+  const HWND list = HandleOf(form.List);
+  RECT inside{};
+  GetClientRect(list, &inside);
+  const auto width = [&](WPARAM column) {
+    return SendMessageA(list, LVM_GETCOLUMNWIDTH, column, 0);
+  };
+  EXPECT_EQ(width(1), std::lround(1500 / toolkit->TwipsPerPixelX()));
+  EXPECT_EQ(width(0) + width(1), inside.right);
+}
+
+std::string StatusPart(HWND bar, int part) {
+  char text[100] = "";
+  SendMessageA(bar, SB_GETTEXTA, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(text));
+  return text;
+}
+
+TEST_F(RealWindows, TheStatusBarTellsTheDateInTheUsersForm) {
+  SYSTEMTIME now{};
+  char date[100] = "";
+  GetLocalTime(&now);
+  GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &now, nullptr, date, sizeof date);
+  EXPECT_EQ(StatusPart(HandleOf(form.Status), 0), "Ready");
+  EXPECT_EQ(StatusPart(HandleOf(form.Status), 1), date);
+}
+
+TEST_F(RealWindows, ToolButtonsBearTheirTipsAsTexts) {
+  const HWND bar = HandleOf(form.Tools);
+  TBBUTTON button{};
+  ASSERT_TRUE(SendMessageA(bar, TB_GETBUTTON, 0, reinterpret_cast<LPARAM>(&button)));
+  char text[100] = "";
+  SendMessageA(bar, TB_GETBUTTONTEXTA, static_cast<WPARAM>(button.idCommand),
+               reinterpret_cast<LPARAM>(text));
+  EXPECT_STREQ(text, "First");
 }
 
 TEST_F(RealWindows, AListShowsItsRowsToWhoeverLooks) {
@@ -536,8 +622,7 @@ TEST_F(RealWindows, APressThatLostTheMouseIsNoClickOfALink) {
   ReleaseCapture();
   SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
   SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-  SendMessageA(link, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
-  SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(-3, 3));
   EXPECT_EQ(clicks, 0);
   SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
   SendMessageA(link, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(4, 4));

@@ -216,6 +216,9 @@ TEST_F(HyperLinks, AClickOpensTheAddressUnderTheHourglassThenTells) {
   toolkit_.SetScreenPointer(7);
   std::vector<std::string> lines;
   toolkit_.Trace = [&lines](const std::string& line) { lines.push_back(line); };
+  Link().Click = [&] {
+    events_.push_back("Click after " + std::to_string(world_.openedDocuments.size()));
+  };
   Link().lblHyperlink.UserClick();
   ASSERT_EQ(world_.openedDocuments.size(), 1U);
   const auto& opened = world_.openedDocuments[0];
@@ -226,7 +229,7 @@ TEST_F(HyperLinks, AClickOpensTheAddressUnderTheHourglassThenTells) {
   EXPECT_EQ(opened.directory, "");
   EXPECT_EQ(opened.showCommand, 1);
   EXPECT_EQ(lines, (Events{"Screen MousePointer=11", "Screen MousePointer=7"}));
-  EXPECT_EQ(events_, Events{"Click"});
+  EXPECT_EQ(events_, Events{"Click after 1"});
 }
 
 TEST_F(HyperLinks, WithoutAnAddressAClickOnlyTells) {
@@ -338,6 +341,20 @@ TEST_F(HyperLinks, AnAddressReadsBackTrimmed) {
   Make();
   Link().SetHyperLink("  http://www.example.com/x y  ");
   EXPECT_EQ(Link().GetHyperLink(), "http://www.example.com/x y");
+}
+
+TEST_F(HyperLinks, WhoHoldsItAsAnyControlReachesTheSameProperties) {
+  Make();
+  forms::Control& any = Link();
+  any.SetForeColor(0x010203);
+  any.SetBackColor(0x040506);
+  any.SetEnabled(false);
+  EXPECT_EQ(events_, (Events{"ForeColor", "BackColor", "Enabled"}));
+  EXPECT_EQ(Label().ForeColor(), 0x010203U);
+  EXPECT_EQ(any.ForeColor(), 0x010203U);
+  EXPECT_EQ(Label().BackColor(), 0x040506U);
+  EXPECT_FALSE(Label().Enabled());
+  EXPECT_FALSE(any.Enabled());
 }
 
 TEST_F(HyperLinks, AnUnknownAlignmentIsRefused) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Designs.h"
+#include "forms/SpokenName.h"
 
 namespace vantrel::windows {
 namespace {
@@ -150,6 +151,26 @@ TEST_F(Layout, ButtonsAreOfOneHeight) {
   });
 }
 
+// Those beside or below each other in one container.
+TEST_F(Layout, ButtonsOfAGroupAreOfOneWidth) {
+  ForEach([this](Control& control) {
+    // The main window's own are never shown.
+    if (dynamic_cast<forms::CommandButton*>(&control) == nullptr ||
+        &control.Owner() == &designs_.Main) {
+      return;
+    }
+    for (const Control* other : control.Owner().Controls()) {
+      const bool inGroup =
+          dynamic_cast<const forms::CommandButton*>(other) != nullptr &&
+          other->Container() == control.Container() &&
+          (other->At().Left == control.At().Left || other->At().Top == control.At().Top);
+      if (inGroup) {
+        EXPECT_EQ(other->At().Width, control.At().Width) << other->Name();
+      }
+    }
+  });
+}
+
 TEST_F(Layout, ColumnsFillTheirListsButForTheScrollBar) {
   ForEach([this](Control& control) {
     const auto* list = dynamic_cast<forms::ListView*>(&control);
@@ -162,18 +183,6 @@ TEST_F(Layout, ColumnsFillTheirListsButForTheScrollBar) {
   });
 }
 
-// What a screen reader says of the control: its text, or that of the label before it, or else its
-// tool tip.
-std::string AccessibleName(const Control& control) {
-  const bool named = dynamic_cast<const forms::TextBox*>(&control) == nullptr &&
-                     dynamic_cast<const forms::ComboBox*>(&control) == nullptr;
-  if (named) return control.WindowText();
-  const std::vector<Control*>& all = control.Owner().Controls();
-  const auto at = std::find(all.begin(), all.end(), &control);
-  const auto* label = at == all.begin() ? nullptr : dynamic_cast<const forms::Label*>(*(at - 1));
-  return label != nullptr ? label->Caption() : control.ToolTipText();
-}
-
 TEST_F(Layout, WhateverTabVisitsHasANameOfItsOwn) {
   std::set<std::string> names;
   ForEach([&names](Control& control) {
@@ -181,13 +190,64 @@ TEST_F(Layout, WhateverTabVisitsHasANameOfItsOwn) {
     // Never seen, whatever the user does.
     static const std::set<std::string> unseen{"Text1", "txtCommand", "flbpluginsfile"};
     if (unseen.count(control.Name()) > 0) return;
-    const std::string name = AccessibleName(control);
+    const std::string name = forms::SpokenName(control);
     EXPECT_NE(name, "");
-    // Links and buttons of one caption are told apart by their tool tips.
-    EXPECT_TRUE(
-        names.insert(control.Owner().Name() + '|' + name + '|' + control.ToolTipText()).second)
-        << name;
+    EXPECT_TRUE(names.insert(control.Owner().Name() + '|' + name).second) << name;
   });
+}
+
+std::string TabOrderOf(const Form& form) {
+  std::string order;
+  for (const Control* control : form.Controls()) {
+    if (!control->IsTabStop() || !IsPlaced(*control)) continue;
+    if (!order.empty()) order += ' ';
+    order += control->QualifiedName().substr(form.Name().size() + 1);
+  }
+  return order;
+}
+
+TEST_F(Layout, TabGoesInReadingOrder) {
+  const std::map<std::string, std::string> orders{
+      {"frmMain",
+       "LnkWelcome LnkAdBlocking LnkSettings LnkAllowedList LnkNotification lnkClean "
+       "LnkIESettings LnkIePlug lnkCheckAndRepair LnkGraph LnkLog LnkHelp Label57 "
+       "Label29 Label31 Label32 Label61 Label30 cmdDummy Text1 cmdADDBHO cmdRemoveBHO"},
+      {"frmcustom",
+       "lstvSet cmdAdd cmdRemove cmdMUp cmdMDown cmdReset lstvCurrent txttoolbarname "
+       "cmdDone Command1"},
+      {"FrmFrameMain",
+       "optDial optMedium optFast cmdstart cmdstop cmdtest ChkMinimize Label9 Label62 "
+       "Label6 txtCommand"},
+      {"FrmFrameBlockPreferences",
+       "cmbinternet Label12 chkAll Label17 chkBPopup Label18 chkBDhtml Label22 "
+       "chkBDialog Label20 chkBBanner Label21 chkBFlash Label23 chkBAdv Label24 "
+       "chkBDialogBox Label7 chkBSpyware Label2 chkBFull cmdsave"},
+      {"FrmFrameSettings",
+       "lblHGS chkGHideSystray Label14 chkGSWindows Label15 chkGUpdate Label25 chkGLog "
+       "Label16 chkGShowToolbar lblviewtoolbar Label13 chkScript cmdtoolbar Command4 "
+       "cmdresetSettings"},
+      {"FrmFrameHistory",
+       "chkCacheHistory chkCacheInternet chkCacheRecent chkCachetemp chkCacheHURL "
+       "chkWindowsRunHistory chkWindowsFindHistory chkWindowsRecDoc chkWindowsRB "
+       "lblRefresh Label19 optBit(8) optBit(9) Label47 CmdDeleteCache optIE "
+       "optNetscape optOpera txtcookies urls Label48 cmddeleteCookies"},
+      {"FrmFrameAllowList",
+       "Label39 txtName chkAPopups chkADhtml chkADialog chkABanner chkAFlash "
+       "chkADialogBox cmdAddWebsite cmdEditAllowed cmdRemove lstGroup"},
+      {"FrmFrameNotification",
+       "Label42 chkNAll Label58 chkNW Label49 chkNS cmbsound Label35 Label51 chkNPH "
+       "Label52 chkNPHF Label53 chkNMC Label50 cmdDefaultNotify"},
+      {"FrmFrameIESettings",
+       "Label38 txtIESettings cmdBrowseIESettings Label37 cmdBackupIESettings "
+       "txtBackup Label55 chktakebackup cmdRestoreIESettings"},
+      {"FrmFrameIEPlugin", "Label41 lstBHO cmdRefreshBHO cmddeleteBHO flbpluginsfile"},
+      {"FrmFrameGraph", "Label44 txtPop txtDHTML txtWebD txtBanner txtFlash Command12"},
+      {"FrmFrameLog", "Label46 lstLog lblResetLog Label54 Command11"},
+      {"FrmAbout", "Label30 Label61 CmdOK"},
+  };
+  for (const Form* form : designs_.All()) {
+    EXPECT_EQ(TabOrderOf(*form), orders.at(form->Name())) << form->Name();
+  }
 }
 
 TEST_F(Layout, EachHelpLinkTellsOnWhat) {

@@ -157,6 +157,19 @@ TEST_F(Hand, FollowsTheLinkThatHasTheFocusByEnterAndSpace) {
   EXPECT_THAT(notes, ElementsAre("face", "face", "plainLink", "plainLink"));
 }
 
+TEST_F(Hand, AnswersADialogWhateverHadTheFocusBehindIt) {
+  SampleForm dialog(toolkit, "frmDialog", Border::Dialog);
+  dialog.ok.Click = Note("answer");
+  form.plainLink.SetFocus();
+  toolkit.WhenPumped([&] {
+    EXPECT_FALSE(user.Space());
+    EXPECT_TRUE(user.Enter());
+    dialog.Hide();
+  });
+  dialog.ShowModal();
+  EXPECT_THAT(notes, ElementsAre("answer"));
+}
+
 TEST_F(Hand, LeavesEnterToATextOfSeveralLines) {
   form.lines.SetFocus();
   EXPECT_FALSE(user.Enter());

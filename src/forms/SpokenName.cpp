@@ -1,4 +1,4 @@
-#include "forms/win32/SpokenName.h"
+#include "forms/SpokenName.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@
 #include "forms/UserControl.h"
 #include "text/Strings.h"
 
-namespace vantrel::forms::win32 {
+namespace vantrel::forms {
 namespace {
 
 // What shows the control's text and tool tip: itself, or its face.
@@ -90,4 +90,4 @@ std::string SpokenDescription(Control& control) {
   return tip == SpokenName(control) ? "" : tip;
 }
 
-}  // namespace vantrel::forms::win32
+}  // namespace vantrel::forms

@@ -1,13 +1,13 @@
 // What a screen reader says of a control: the name by which it is told from every other of its
 // window, and a description where there is more to say.
-#ifndef VANTREL_FORMS_WIN32_SPOKENNAME_H_
-#define VANTREL_FORMS_WIN32_SPOKENNAME_H_
+#ifndef VANTREL_FORMS_SPOKENNAME_H_
+#define VANTREL_FORMS_SPOKENNAME_H_
 
 #include <string>
 
 #include "forms/Control.h"
 
-namespace vantrel::forms::win32 {
+namespace vantrel::forms {
 
 // The caption; of a link whose tool tip goes on where its caption ends ("Help", "Help on playing a
 // sound") the tool tip; of a control without a caption the label before it, else its tool tip, else
@@ -21,6 +21,6 @@ std::string SpokenDescription(Control& control);
 // Whether it acts as a link, however it is built.
 bool IsSpokenLink(Control& control);
 
-}  // namespace vantrel::forms::win32
+}  // namespace vantrel::forms
 
-#endif  // VANTREL_FORMS_WIN32_SPOKENNAME_H_
+#endif  // VANTREL_FORMS_SPOKENNAME_H_
