@@ -33,7 +33,7 @@ enum class Border { Panel, Sizable, Dialog };
 
 struct FormDesign {
   const char* Caption = "";
-  int Width = 0;  // in twips; outside the frame for a window, all of it for a panel
+  int Width = 0;  // in twips; outside the frame for a window, inside it for a dialog
   int Height = 0;
   int Left = 0;  // of a panel, in its parent's inside; of any other window, -1 centres it
   int Top = 0;

@@ -5,8 +5,8 @@ namespace vantrel::windows {
 FrmAbout::FrmAbout(forms::Toolkit& toolkit)
     : Form(toolkit, "FrmAbout",
            {.Caption = "About Qorvel Software Vantrel",
-            .Width = Steps(380),
-            .Height = Steps(236),
+            .Width = Steps(364),
+            .Height = Steps(197),
             .Left = -1,
             .Top = -1,
             .Frame = forms::Border::Dialog}) {}

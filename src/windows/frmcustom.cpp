@@ -5,8 +5,8 @@ namespace vantrel::windows {
 frmcustom::frmcustom(forms::Toolkit& toolkit)
     : Form(toolkit, "frmcustom",
            {.Caption = "  Customize Toolbar - Vantrel",
-            .Width = Steps(520),
-            .Height = Steps(386),
+            .Width = Steps(504),
+            .Height = Steps(347),
             .Left = -1,
             .Top = -1,
             .Frame = forms::Border::Dialog}) {}

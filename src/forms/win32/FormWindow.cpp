@@ -109,6 +109,7 @@ WindowShape FormWindow::Shape() const {
     shape.Style |= WS_POPUP | WS_CAPTION | WS_SYSMENU;
     shape.ExtendedStyle |= WS_EX_DLGMODALFRAME;
     shape.Parent = DialogOwner();
+    AdjustWindowRectEx(&shape.Area, shape.Style, FALSE, shape.ExtendedStyle);
   }
   return shape;
 }
@@ -214,12 +215,23 @@ void FormWindow::Center() {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// What of the window the model's size is: a dialog's inside, else all of it.
+RECT FormWindow::Measured() const {
+  if (!IsMain() && !IsPanel()) return ClientArea(Handle());
+  RECT area{};
+  GetWindowRect(Handle(), &area);
+  return area;
+}
+
 void FormWindow::ShowPlace() {
-  const RECT area = System().Pixels.Rectangle({0, 0, form_.Width(), form_.Height()});
-  RECT shown{};
-  GetWindowRect(Handle(), &shown);
-  if (WidthOf(shown) == area.right && HeightOf(shown) == area.bottom) return;
-  SetWindowPos(Handle(), nullptr, 0, 0, area.right, area.bottom,
+  const RECT wanted = System().Pixels.Rectangle({0, 0, form_.Width(), form_.Height()});
+  const RECT shown = Measured();
+  const int wider = wanted.right - WidthOf(shown);
+  const int higher = wanted.bottom - HeightOf(shown);
+  if (wider == 0 && higher == 0) return;
+  RECT whole{};
+  GetWindowRect(Handle(), &whole);
+  SetWindowPos(Handle(), nullptr, 0, 0, WidthOf(whole) + wider, HeightOf(whole) + higher,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -277,8 +289,7 @@ void FormWindow::Resized(WPARAM kind) {
   const WindowState state = kind == SIZE_MINIMIZED   ? WindowState::Minimized
                             : kind == SIZE_MAXIMIZED ? WindowState::Maximized
                                                      : WindowState::Normal;
-  RECT area{};
-  GetWindowRect(Handle(), &area);
+  const RECT area = Measured();
   const Scale& scale = System().Pixels;
   // A size that rounds to the same pixels is the same size.
   const auto twips = [&](int pixels, int known) {

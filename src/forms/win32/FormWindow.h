@@ -54,6 +54,7 @@ class FormWindow : public Window {
   HWND DialogOwner() const;
   void AwaitControls();
   void ShowVisible();
+  RECT Measured() const;
   void ShowPlace();
   void ShowState();
   int ShowCommand() const;

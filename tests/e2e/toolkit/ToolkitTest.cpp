@@ -664,6 +664,20 @@ TEST_F(RealWindows, OwnWindowsEraseNothing) {
   DeleteDC(context);
 }
 
+TEST_F(RealWindows, ADialogIsAsLargeInsideAsItIsDesigned) {
+  Question question(*toolkit);
+  question.Show();
+  RECT inside{};
+  GetClientRect(HandleOf(question), &inside);
+  EXPECT_EQ(inside.right, std::lround(3000 / toolkit->TwipsPerPixelX()));
+  EXPECT_EQ(inside.bottom, std::lround(2000 / toolkit->TwipsPerPixelX()));
+  EXPECT_EQ(question.Width(), 3000);
+  question.SetWidth(4500);
+  GetClientRect(HandleOf(question), &inside);
+  EXPECT_EQ(inside.right, std::lround(4500 / toolkit->TwipsPerPixelX()));
+  question.Unload();
+}
+
 TEST_F(RealWindows, AControlOfAHiddenWindowIsThereWhenItsHandleIsAskedFor) {
   Question hidden(*toolkit);
   hidden.EnsureLoaded();

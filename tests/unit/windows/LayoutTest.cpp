@@ -32,13 +32,11 @@ bool IsPlaced(const Control& control) {
          dynamic_cast<const forms::UserControl*>(control.Container()) == nullptr;
 }
 
-// The inside of a window with the widest frame and the highest caption and menu bar in use.
+// The inside of a window; of the main one with the widest frame and the highest caption and menu
+// bar in use.
 Place Inside(const Form& form) {
-  if (form.Designed().Frame == forms::Border::Panel) return {0, 0, form.Width(), form.Height()};
-  if (form.Designed().Frame == forms::Border::Dialog) {
-    return {0, 0, form.Width() - Steps(16), form.Height() - Steps(39)};
-  }
-  return Grid(0, 0, 612, 412);
+  if (form.Designed().Frame == forms::Border::Sizable) return Grid(0, 0, 612, 412);
+  return {0, 0, form.Width(), form.Height()};
 }
 
 Place InsideOf(const Control& control) {
