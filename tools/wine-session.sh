@@ -53,10 +53,13 @@ UseWine() {
   export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
   unset WINESERVER WINELOADER
   wineLauncher=()
+  # At random addresses about one start of a program in a thousand fails, with error 1359. Where
+  # the machine refuses fixed ones, that is so.
+  if setarch -R true 2>/dev/null; then wineLauncher+=(setarch -R); fi
   export WINEARCH=win64
   if [[ $wineArch == x86 && ! -x /usr/lib/wine/wine ]]; then
     export WINEARCH=win32
-    wineLauncher=("$vantrelTop/tools/x86-root" run)
+    wineLauncher+=("$vantrelTop/tools/x86-root" run)
   fi
 }
 

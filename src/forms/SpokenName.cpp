@@ -48,7 +48,7 @@ std::string LabelBefore(const Control& control) {
 
 std::string CaptionAround(const Control& control) {
   for (Control* around = control.Container(); around != nullptr; around = around->Container()) {
-    if (const std::string caption = CaptionOf(*around); !caption.empty()) return caption;
+    if (std::string caption = CaptionOf(*around); !caption.empty()) return caption;
   }
   return control.Owner().Caption();
 }
@@ -80,7 +80,7 @@ bool IsSpokenLink(Control& control) {
 }
 
 std::string SpokenName(Control& control) {
-  const std::string name = OwnName(control);
+  std::string name = OwnName(control);
   if (!IsNameOfAnother(name, control)) return name;
   return name + ", " + text::Trim(WithoutMarks(CaptionAround(control)));
 }
