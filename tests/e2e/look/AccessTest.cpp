@@ -183,13 +183,6 @@ class SpokenTest : public AccessTest {
           << control.Name << " and " << named[name] << " are both '" << name << "'";
     }
   }
-
-  void ExpectNamesOfTheDialog(const std::string& entry, const std::string& form) const {
-    OpenDialog(entry, form);
-    ExpectNamesOfTheirOwn(form);
-    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
-  }
 };
 
 TEST_F(SpokenTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
@@ -201,8 +194,8 @@ TEST_F(SpokenTest, EveryControlThatTakesTheFocusHasANameOfItsOwn) {
   Shown().Choose("submnuLaunchHelp");
   ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
   ExpectNamesOfTheirOwn("frmMain");
-  ExpectNamesOfTheDialog("submnuAbout", "FrmAbout");
-  ExpectNamesOfTheDialog("submnuIEToolbar", "frmcustom");
+  InDialog("submnuAbout", "FrmAbout", [this] { ExpectNamesOfTheirOwn("FrmAbout"); });
+  InDialog("submnuIEToolbar", "frmcustom", [this] { ExpectNamesOfTheirOwn("frmcustom"); });
 }
 
 TEST_F(SpokenTest, ALinkIsALinkToTheReader) {

@@ -63,14 +63,6 @@ class ColourTest : public LookFixture {
         << unreadable;
   }
 
-  void ExpectDialogReadable(const std::string& entry, const std::string& form) const {
-    Shown().Choose(entry);
-    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find(form)) != FALSE; })) << form;
-    ExpectReadable(form);
-    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
-  }
-
   void ExpectAllReadable() const {
     for (const Screen& screen : Panels) {
       ASSERT_TRUE(Shown().Open(screen));
@@ -82,8 +74,8 @@ class ColourTest : public LookFixture {
     Shown().MouseClick("frmMain.LnkHelp");
     ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find("frmMain.frahelp")) != FALSE; }));
     ExpectReadable("frmMain");
-    ExpectDialogReadable("submnuAbout", "FrmAbout");
-    ExpectDialogReadable("submnuIEToolbar", "frmcustom");
+    InDialog("submnuAbout", "FrmAbout", [this] { ExpectReadable("FrmAbout"); });
+    InDialog("submnuIEToolbar", "frmcustom", [this] { ExpectReadable("frmcustom"); });
   }
 };
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -60,6 +61,16 @@ class LookFixture : public ProgramTest {
       seen.push_back({name, window, ClassNameOf(window), WindowTextOf(window)});
     }
     return seen;
+  }
+
+  // Brings the dialog up by the menu, looks at it, and closes it.
+  void InDialog(const std::string& entry, const std::string& form,
+                const std::function<void()>& look) const {
+    Shown().Choose(entry);
+    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find(form)) != FALSE; })) << form;
+    look();
+    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
   }
 
   const Running& Program() const { return *program_; }

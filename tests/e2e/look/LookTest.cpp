@@ -156,14 +156,6 @@ class LookTest : public LookFixture, public testing::WithParamInterface<int> {
     EXPECT_EQ(Outside(controls), "") << form;
     EXPECT_EQ(OffGrid(controls), "") << form;
   }
-
-  void InspectDialog(const std::string& entry, const std::string& form) {
-    Shown().Choose(entry);
-    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(Shown().Find(form)) != FALSE; })) << form;
-    Inspect(form);
-    PostMessageA(Shown().Find(form), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(WaitFor([&] { return !IsWindowVisible(Shown().Find(form)); })) << form;
-  }
 };
 
 TEST_P(LookTest, EveryControlOfEveryPanelHasItsPlace) {
@@ -184,8 +176,8 @@ TEST_P(LookTest, EveryControlOfTheHelpFrameHasItsPlace) {
 
 TEST_P(LookTest, EveryControlOfTheDialogsHasItsPlace) {
   Start(GetParam());
-  InspectDialog("submnuAbout", "FrmAbout");
-  InspectDialog("submnuIEToolbar", "frmcustom");
+  InDialog("submnuAbout", "FrmAbout", [this] { Inspect("FrmAbout"); });
+  InDialog("submnuIEToolbar", "frmcustom", [this] { Inspect("frmcustom"); });
 }
 
 TEST_P(LookTest, TheMainWindowFitsASmallScreen) {
