@@ -1,11 +1,11 @@
 #include "blocking/GeneralSettingsPanel.h"
 
 #include "blocking/BlockingState.h"
+#include "launch/OpenUrl.h"
 #include "program/PanelHosting.h"
 #include "settings/StartWithWindowsRegistry.h"
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
-#include "shell/launch/OpenUrl.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -1,8 +1,8 @@
 #include "blocking/WelcomePanel.h"
 
 #include "blocking/BlockingState.h"
+#include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
-#include "shell/launch/OpenUrl.h"
 #include "statistics/RefreshCounters.h"
 
 namespace vantrel::blocking {

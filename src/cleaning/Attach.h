@@ -1,4 +1,4 @@
-// Binds this room's behaviour to its panel.
+// Binds this component's behaviour to its panel.
 #ifndef VANTREL_CLEANING_ATTACH_H_
 #define VANTREL_CLEANING_ATTACH_H_
 

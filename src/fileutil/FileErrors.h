@@ -18,7 +18,7 @@ inline constexpr FileErrorRow FileErrorRows[] = {
     {3, text::ErrorNumber::PathNotFound},       // no such folder
     {5, text::ErrorNumber::PermissionDenied},   // refused
     {32, text::ErrorNumber::PermissionDenied},  // locked by somebody else
-    {112, text::ErrorNumber::DiskFull},         // no room
+    {112, text::ErrorNumber::DiskFull},         // disk full
 };
 
 // The error that belongs to a code other than 0; a device error for one without a row.

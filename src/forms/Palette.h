@@ -39,7 +39,7 @@ inline constexpr Color Dialogs = Rgb(0xC0, 0xFF, 0xFF);
 inline constexpr Color Banners = Rgb(0xC0, 0xC0, 0x00);
 inline constexpr Color Flash = Rgb(0xFF, 0xC0, 0xFF);
 
-// The house's own.
+// The program's own.
 inline constexpr Color PanelBack = Rgb(0xF4, 0xF8, 0xFE);
 inline constexpr Color FrameLine = Rgb(0x9D, 0xBB, 0xE3);
 inline constexpr Color FrameText = Rgb(0x1E, 0x3A, 0x6E);

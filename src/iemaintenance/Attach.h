@@ -1,4 +1,4 @@
-// Binds this room's behaviour to its two panels.
+// Binds this component's behaviour to its two panels.
 #ifndef VANTREL_IEMAINTENANCE_ATTACH_H_
 #define VANTREL_IEMAINTENANCE_ATTACH_H_
 

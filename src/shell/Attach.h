@@ -6,7 +6,7 @@
 
 namespace vantrel::shell {
 
-// Binds what all rooms do to the windows of the program, before the first window is touched.
+// Binds all components' behaviour to the program's windows, before the first window is touched.
 void AttachProgram(program::Program& program);
 
 }  // namespace vantrel::shell

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "launch/bmdlRegUnReg.h"
 #include "settings/bmdlReg.h"
-#include "shell/launch/bmdlRegUnReg.h"
 #include "text/ErrorTrap.h"
 
 namespace vantrel::shell {

@@ -5,7 +5,7 @@
 #include <type_traits>
 #include <variant>
 
-#include "shell/launch/OpenUrl.h"
+#include "launch/OpenUrl.h"
 
 namespace vantrel::shell {
 namespace {

@@ -6,8 +6,8 @@
 #include <functional>
 #include <string>
 
+#include "launch/Targets.h"
 #include "program/Program.h"
-#include "shell/launch/Targets.h"
 
 namespace vantrel::shell {
 

@@ -1,9 +1,9 @@
 #include "shell/Navigation.h"
 
 #include "blocking/BlockingState.h"
+#include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
 #include "shell/CheckAndRepair.h"
-#include "shell/launch/OpenUrl.h"
 
 namespace vantrel::shell {
 namespace {

@@ -1,8 +1,8 @@
 #include "statistics/DetailLogPanel.h"
 
 #include "fileutil/FileErrors.h"
+#include "launch/OpenUrl.h"
 #include "program/PanelHosting.h"
-#include "shell/launch/OpenUrl.h"
 #include "statistics/BlockLog.h"
 #include "statistics/RefreshCounters.h"
 

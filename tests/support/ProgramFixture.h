@@ -1,5 +1,5 @@
 // The whole program on the in-memory Windows: a machine with a browser that the gate lets in, and
-// copies of the program on it, with every room's behaviour attached.
+// copies of the program on it, with every component's behaviour attached.
 #ifndef VANTREL_TESTS_SUPPORT_PROGRAMFIXTURE_H_
 #define VANTREL_TESTS_SUPPORT_PROGRAMFIXTURE_H_
 

@@ -8,7 +8,7 @@ namespace vantrel::forms::win32 {
 namespace {
 
 struct Substitute {
-  Color House;
+  Color Own;
   Color Scheme;
 };
 
@@ -71,7 +71,7 @@ void Colors::Refresh() {
 COLORREF Colors::Of(Color color) const {
   if (contrast_) {
     const auto* row = std::find_if(SchemeColors.begin(), SchemeColors.end(),
-                                   [&](const Substitute& s) { return s.House == color; });
+                                   [&](const Substitute& s) { return s.Own == color; });
     if (row != SchemeColors.end()) return Screen(row->Scheme);
   }
   return Screen(color);

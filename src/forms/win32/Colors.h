@@ -1,5 +1,6 @@
 // Turns the palette's colours into the screen's. Where the user has chosen high contrast or a dark
-// scheme, the house's own colours give way to those of the scheme; this is the one place for that.
+// scheme, the program's own colours are replaced by those of the scheme; this is the one place for
+// that.
 #ifndef VANTREL_FORMS_WIN32_COLORS_H_
 #define VANTREL_FORMS_WIN32_COLORS_H_
 
@@ -18,7 +19,7 @@ class Colors {
 
   // Looks at the user's scheme anew.
   void Refresh();
-  // Whether the scheme's colours stand for the house's.
+  // Whether the scheme's colours replace the program's own.
   bool Contrast() const { return contrast_; }
 
   COLORREF Of(Color color) const;

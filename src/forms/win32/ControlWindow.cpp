@@ -266,7 +266,7 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   return Alive() ? Window::OnMessage(message, first, second) : 0;
 }
 
-void ControlWindow::DrawHouseBorder() {
+void ControlWindow::DrawOwnBorder() {
   const WindowContext context(Handle(), Extent::WithFrame);
   RECT area{};
   GetWindowRect(Handle(), &area);

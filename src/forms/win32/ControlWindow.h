@@ -38,7 +38,7 @@ class ControlWindow : public Window {
   // The pointer shown over it, in the models' numbers.
   virtual int Pointer() const { return control_.MousePointer(); }
   virtual const std::string& TipText() const { return control_.ToolTipText(); }
-  // Whether a screen reader is given a name of the house's rather than the window's text.
+  // Whether a screen reader is given a name of the program's own rather than the window's text.
   virtual bool IsSpokenByName() const { return control_.IsTabStop(); }
   // Whose mouse events are raised here.
   virtual Control& MouseTarget() const { return control_; }
@@ -53,7 +53,7 @@ class ControlWindow : public Window {
   // The ground for text that is typed or listed, and the answer to OnColor there.
   Color InputGround() const;
   HBRUSH OnInputColor(HDC context);
-  void DrawHouseBorder();
+  void DrawOwnBorder();
   bool HasMouse(LPARAM position) const;
   // The left button's messages to a control that Windows knows no clicks of: raises what every
   // control does, and `click` when the button is let go over the control that it was pressed on.

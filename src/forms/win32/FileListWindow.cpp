@@ -35,7 +35,7 @@ LRESULT FileListWindow::OnCommand(WPARAM first, LPARAM) {
 
 LRESULT FileListWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-  if (message == WM_NCPAINT && Alive()) DrawHouseBorder();
+  if (message == WM_NCPAINT && Alive()) DrawOwnBorder();
   return answer;
 }
 

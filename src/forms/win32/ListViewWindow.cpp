@@ -298,7 +298,7 @@ void ListViewWindow::Follow(UINT message) {
     case WM_NCPAINT:
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-      return DrawHouseBorder();
+      return DrawOwnBorder();
     default:
       return;
   }

@@ -47,7 +47,7 @@ LRESULT TextBoxWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   const LRESULT answer = ControlWindow::OnMessage(message, first, second);
   const bool borderChanges =
       message == WM_NCPAINT || message == WM_SETFOCUS || message == WM_KILLFOCUS;
-  if (borderChanges && Alive()) DrawHouseBorder();
+  if (borderChanges && Alive()) DrawOwnBorder();
   return answer;
 }
 

@@ -8,7 +8,7 @@
 #include "blocking/BlockPreferencesPanel.h"
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -24,7 +24,7 @@ constexpr const char* MessengerKey = "SYSTEM\\CurrentControlSet\\Services\\Messe
 constexpr const char* ZoneKey =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones\\0";
 
-class BlockPreferences : public test::RoomFixture {
+class BlockPreferences : public test::ComponentFixture {
  protected:
   BlockPreferences() {
     AttachBlocking(program);

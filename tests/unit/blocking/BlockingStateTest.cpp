@@ -4,7 +4,7 @@
 #include "blocking/Attach.h"
 #include "blocking/BlockingState.h"
 #include "statistics/Attach.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -19,7 +19,7 @@ using test::ToolbarKey;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class BlockingState : public test::RoomFixture {
+class BlockingState : public test::ComponentFixture {
  protected:
   BlockingState() {
     statistics::AttachStatistics(program);

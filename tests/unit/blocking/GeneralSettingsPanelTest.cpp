@@ -4,10 +4,10 @@
 
 #include "blocking/Attach.h"
 #include "blocking/GeneralSettingsPanel.h"
+#include "launch/Targets.h"
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
-#include "shell/launch/Targets.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -23,7 +23,7 @@ using testing::IsEmpty;
 constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 constexpr const char* RestartText = "The changes may require a restart of Internet Explorer";
 
-class GeneralSettings : public test::RoomFixture {
+class GeneralSettings : public test::ComponentFixture {
  protected:
   GeneralSettings() {
     AttachBlocking(program);

@@ -5,7 +5,7 @@
 #include "blocking/NotificationPanel.h"
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Notification : public test::RoomFixture {
+class Notification : public test::ComponentFixture {
  protected:
   Notification() {
     AttachBlocking(program);
@@ -248,7 +248,7 @@ TEST_F(Notification, AFailingSaveShowsTheInformationBox) {
   EXPECT_EQ(Panel().chkNPH.Value(), 1);
 }
 
-class NotificationMade : public test::RoomFixture {};
+class NotificationMade : public test::ComponentFixture {};
 
 TEST_F(NotificationMade, WithTheSoundOnAndNoneSelectedTheFirstIsSelected) {
   program.windows.FrmFrameNotification.OnMade(

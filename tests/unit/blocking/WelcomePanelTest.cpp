@@ -3,10 +3,10 @@
 
 #include "blocking/Attach.h"
 #include "blocking/WelcomePanel.h"
+#include "launch/Targets.h"
 #include "settings/FirstRun.h"
-#include "shell/launch/Targets.h"
 #include "statistics/Attach.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -17,7 +17,7 @@ using test::EngineKey;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class WelcomePanel : public test::RoomFixture {
+class WelcomePanel : public test::ComponentFixture {
  protected:
   WelcomePanel() {
     statistics::AttachStatistics(program);

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "program/Windows.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 #include "text/RuntimeError.h"
 
 namespace vantrel::program {
@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Panel = windows::FrmFrameLog;
 
-class WindowSlots : public test::RoomFixture {
+class WindowSlots : public test::ComponentFixture {
  protected:
   WindowSlot<Panel>& slot = program.windows.FrmFrameLog;
   int loads = 0;

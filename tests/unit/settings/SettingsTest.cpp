@@ -6,7 +6,7 @@
 #include "settings/Load.h"
 #include "settings/Schema.h"
 #include "settings/bmdlSave.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::settings {
 namespace {
@@ -26,7 +26,7 @@ std::string GeneralFlag(const std::string& name, int value) {
   return "Settings \"" + name + "\" 4 " + std::to_string(value) + " 0 0 0 -> 0";
 }
 
-class SettingsTree : public test::RoomFixture {
+class SettingsTree : public test::ComponentFixture {
  protected:
   SettingsTree() {
     program.windows.FrmFrameSettings.OnMade([this](windows::FrmFrameSettings& panel) {

@@ -3,7 +3,7 @@
 
 #include "settings/StartWithWindowsRegistry.h"
 #include "settings/bmdlRegAPI.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::settings {
 namespace {
@@ -16,7 +16,7 @@ using testing::IsEmpty;
 constexpr const char* Key = "Software\\Somebody";
 constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-class BmdlRegAPI : public test::RoomFixture {
+class BmdlRegAPI : public test::ComponentFixture {
  protected:
   void Store(const std::string& name, std::uint32_t type, const std::string& data) {
     world.registry.Set(HKeyCurrentUser, Key, name, type, data);

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "shell/launch/OpenUrl.h"
+#include "launch/OpenUrl.h"
 #include "unit/shell/ShellTest.h"
 
 namespace vantrel::shell {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "launch/OpenUrl.h"
 #include "shell/LinkTargets.h"
-#include "shell/launch/OpenUrl.h"
 #include "support/LinkTable.h"
 #include "unit/shell/ShellTest.h"
 

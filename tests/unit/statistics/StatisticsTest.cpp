@@ -7,7 +7,7 @@
 #include "statistics/DetailLogPanel.h"
 #include "statistics/GraphPanel.h"
 #include "statistics/RefreshCounters.h"
-#include "support/RoomFixture.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::statistics {
 namespace {
@@ -20,7 +20,7 @@ using text::RuntimeError;
 constexpr const char* LogFile = "C:\\Program Files\\Vantrel\\Settings\\log.txt";
 constexpr const char* Names[] = {"Popup", "DHTML", "WebDialog", "BannerAds", "Flash"};
 
-class Statistics : public test::RoomFixture {
+class Statistics : public test::ComponentFixture {
  protected:
   Statistics() { AttachStatistics(program); }
 

@@ -1,8 +1,8 @@
-# The walls of the house. A room is one folder under src/ and one static library; it sees the
-# headers of its own folder and of the rooms that it links, and of no other: each room exports a
-# folder of links to its headers, so an include across a wall does not compile.
+# The dependency rule. A component is one folder under src/ and one static library; it sees the
+# headers of its own folder and of the components that it links, and of no other: each component
+# exports a folder of links to its headers, so an include against the rule does not compile.
 
-set(VANTREL_WALLS "${CMAKE_BINARY_DIR}/walls")
+set(VANTREL_EXPORTED_HEADERS "${CMAKE_BINARY_DIR}/exported-headers")
 
 # vantrel_link_header(<header> <place>): a link to the header; where the system refuses links, a
 # copy that an edit of the header refreshes. A copy stays one, so that configuring again touches
@@ -20,11 +20,11 @@ function(vantrel_link_header header place)
   endif()
 endfunction()
 
-# vantrel_export_headers(<room> <folder>): links to the folder's own headers under
-# walls/<room>/<folder>/, the room's one public include folder.
-function(vantrel_export_headers room folder)
+# vantrel_export_headers(<component> <folder>): links to the folder's own headers under
+# exported-headers/<component>/<folder>/, the component's one public include folder.
+function(vantrel_export_headers component folder)
   file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${folder}/*.h")
-  set(exported "${VANTREL_WALLS}/${room}/${folder}")
+  set(exported "${VANTREL_EXPORTED_HEADERS}/${component}/${folder}")
   file(GLOB stale "${exported}/*.h")
   foreach(link IN LISTS stale)
     get_filename_component(name "${link}" NAME)
@@ -39,12 +39,13 @@ function(vantrel_export_headers room folder)
   endforeach()
 endfunction()
 
-# vantrel_room(<folder> [LINKS room...]): the room of src/<folder>; its target is the folder's
-# name with dashes. LINKS are the rooms that it may use, by the same folder names.
-function(vantrel_room folder)
-  cmake_parse_arguments(ROOM "" "" "LINKS" ${ARGN})
-  string(REPLACE "/" "-" room "${folder}")
-  set(target "room-${room}")
+# vantrel_component(<folder> [LINKS component...]): the component of src/<folder>; its target is
+# vantrel- and the folder's name with dashes. LINKS are the components that it may use, by the same
+# folder names.
+function(vantrel_component folder)
+  cmake_parse_arguments(COMPONENT "" "" "LINKS" ${ARGN})
+  string(REPLACE "/" "-" component "${folder}")
+  set(target "vantrel-${component}")
   file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp")
   if(sources)
     add_library(${target} STATIC ${sources})
@@ -54,26 +55,26 @@ function(vantrel_room folder)
     add_library(${target} INTERFACE)
     set(scope INTERFACE)
   endif()
-  vantrel_export_headers(${room} ${folder})
-  target_include_directories(${target} ${scope} "${VANTREL_WALLS}/${room}")
-  foreach(used IN LISTS ROOM_LINKS)
+  vantrel_export_headers(${component} ${folder})
+  target_include_directories(${target} ${scope} "${VANTREL_EXPORTED_HEADERS}/${component}")
+  foreach(used IN LISTS COMPONENT_LINKS)
     string(REPLACE "/" "-" used "${used}")
-    target_link_libraries(${target} ${scope} "room-${used}")
+    target_link_libraries(${target} ${scope} "vantrel-${used}")
   endforeach()
 endfunction()
 
-# vantrel_unit_tests(<room folder> [LINKS target...]): one GoogleTest program of the room's tests,
-# tests/unit/<room folder>/*.cpp, if there are any. They run natively and as 64-bit Windows
+# vantrel_unit_tests(<folder> [LINKS target...]): one GoogleTest program of the component's tests,
+# tests/unit/<folder>/*.cpp, if there are any. They run natively and as 64-bit Windows
 # programs; the 32-bit build is held to the contract and driven from outside instead.
 function(vantrel_unit_tests folder)
   cmake_parse_arguments(TESTS "" "" "LINKS" ${ARGN})
-  string(REPLACE "/" "-" room "${folder}")
+  string(REPLACE "/" "-" component "${folder}")
   file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tests/unit/${folder}/*.cpp")
   if(NOT sources OR VANTREL_WINDOWS_ARCH STREQUAL "x86")
     return()
   endif()
-  vantrel_test_program(unit-tests-${room} SOURCES ${sources}
-                       LINKS room-${room} ${TESTS_LINKS})
+  vantrel_test_program(unit-tests-${component} SOURCES ${sources}
+                       LINKS vantrel-${component} ${TESTS_LINKS})
 endfunction()
 
 # vantrel_test_program(<name> SOURCES file... LINKS target...): a GoogleTest program with the

@@ -1,8 +1,8 @@
-// One copy of the program for the tests of a single room above the forms: no behaviour is attached
-// but what the room's tests attach. With it come the words for what such a test looks at: values
-// of the settings tree, writes, saves and boxes.
-#ifndef VANTREL_TESTS_SUPPORT_ROOMFIXTURE_H_
-#define VANTREL_TESTS_SUPPORT_ROOMFIXTURE_H_
+// One copy of the program for the tests of a single component above the forms: no behaviour is
+// attached but what the component's tests attach. With it come the words for what such a test looks
+// at: values of the settings tree, writes, saves and boxes.
+#ifndef VANTREL_TESTS_SUPPORT_COMPONENTFIXTURE_H_
+#define VANTREL_TESTS_SUPPORT_COMPONENTFIXTURE_H_
 
 #include <algorithm>
 #include <optional>
@@ -13,9 +13,9 @@
 
 namespace vantrel::test {
 
-class RoomFixture : public testing::Test {
+class ComponentFixture : public testing::Test {
  protected:
-  RoomFixture() { FillMachine(world); }
+  ComponentFixture() { FillMachine(world); }
 
   // Runs an event as one from outside: an untrapped error shows its box.
   template <class Act>
@@ -86,4 +86,4 @@ class RoomFixture : public testing::Test {
 
 }  // namespace vantrel::test
 
-#endif  // VANTREL_TESTS_SUPPORT_ROOMFIXTURE_H_
+#endif  // VANTREL_TESTS_SUPPORT_COMPONENTFIXTURE_H_

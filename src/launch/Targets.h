@@ -1,7 +1,7 @@
 // Where links lead: pages of the help folder, pages of the vendor's two sites, and the outside
 // pop-up test page. The host names are the build's.
-#ifndef VANTREL_SHELL_LAUNCH_TARGETS_H_
-#define VANTREL_SHELL_LAUNCH_TARGETS_H_
+#ifndef VANTREL_LAUNCH_TARGETS_H_
+#define VANTREL_LAUNCH_TARGETS_H_
 
 #include <string>
 #include <string_view>
@@ -37,4 +37,4 @@ std::string AddressOf(const program::Program& program, const Target& target);
 
 }  // namespace vantrel::launch
 
-#endif  // VANTREL_SHELL_LAUNCH_TARGETS_H_
+#endif  // VANTREL_LAUNCH_TARGETS_H_

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "shell/launch/bmdlRegUnReg.h"
-#include "support/RoomFixture.h"
+#include "launch/bmdlRegUnReg.h"
+#include "support/ComponentFixture.h"
 
 namespace vantrel::launch {
 namespace {
@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 const std::string Path = "C:\\Program Files\\Vantrel\\GBHelper.dll";
 
-class RegUnReg : public test::RoomFixture {
+class RegUnReg : public test::ComponentFixture {
  protected:
   RegUnReg() { process.Trace().Clear(); }
 

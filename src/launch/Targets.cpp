@@ -1,4 +1,4 @@
-#include "shell/launch/Targets.h"
+#include "launch/Targets.h"
 
 namespace vantrel::launch {
 namespace {

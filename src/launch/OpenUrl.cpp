@@ -1,4 +1,4 @@
-#include "shell/launch/OpenUrl.h"
+#include "launch/OpenUrl.h"
 
 #include "settings/bmdlRegAPI.h"
 #include "text/RuntimeError.h"

@@ -1,7 +1,7 @@
 // The registration of a library as a COM server, and its undoing: the library's own entry is run on
 // a thread of its own, the only other thread that the program ever has, and given ten seconds.
-#ifndef VANTREL_SHELL_LAUNCH_BMDLREGUNREG_H_
-#define VANTREL_SHELL_LAUNCH_BMDLREGUNREG_H_
+#ifndef VANTREL_LAUNCH_BMDLREGUNREG_H_
+#define VANTREL_LAUNCH_BMDLREGUNREG_H_
 
 #include <cstdint>
 #include <string>
@@ -30,4 +30,4 @@ std::int32_t UnregisterDll(platform::Modules& modules, const std::string& path);
 
 }  // namespace vantrel::launch
 
-#endif  // VANTREL_SHELL_LAUNCH_BMDLREGUNREG_H_
+#endif  // VANTREL_LAUNCH_BMDLREGUNREG_H_

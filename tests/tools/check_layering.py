@@ -1,21 +1,21 @@
 #!/usr/bin/env python3
-"""Checks the walls of the house that a build alone cannot see.
+"""Checks what a build alone cannot see of the dependency rule.
 
-usage: check_walls.py SRC
+usage: check_layering.py SRC
 
-Reads the table of rooms from SRC/CMakeLists.txt and every #include under SRC:
-- an include of another room's header needs that room in the table's row, directly or by way of a
-  room that is in it;
+Reads the table of components from SRC/CMakeLists.txt and every #include under SRC:
+- an include of another component's header needs that component in the table's row, directly or by way of a
+  component that is in it;
 - the operating system's headers are included only under win32/ and app/;
 - no two files include each other in a circle;
-- every folder with code is a room of the table (app/ has a build file of its own).
-Prints one line a breach; the exit code tells whether there was one.
+- every folder with code is a component of the table (app/ has a build file of its own).
+Prints one line a violation; the exit code tells whether there was one.
 """
 import pathlib
 import re
 import sys
 
-ROOM = re.compile(r"vantrel_room\(\s*([\w/]+)(?:\s+LINKS\s+([^)]*))?\)")
+COMPONENT = re.compile(r"vantrel_component\(\s*([\w/]+)(?:\s+LINKS\s+([^)]*))?\)")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)', re.M)
 SYSTEM = {
     "windows.h", "winsock2.h", "windef.h", "winbase.h", "winuser.h", "wingdi.h", "winreg.h",
@@ -29,20 +29,20 @@ OUTSIDE_THE_TABLE = {"app"}
 
 def read_table(src):
     text = re.sub(r"#.*", "", (src / "CMakeLists.txt").read_text())
-    return {room: set((links or "").split()) for room, links in ROOM.findall(text)}
+    return {component: set((links or "").split()) for component, links in COMPONENT.findall(text)}
 
 
 def close(table):
-    """What each room may include: its row, the rows of those, and so on."""
+    """What each component may include: its row, the rows of those, and so on."""
     closed = {}
-    for room in table:
-        reached, todo = set(), [room]
+    for component in table:
+        reached, todo = set(), [component]
         while todo:
             for used in table.get(todo.pop(), ()):
                 if used not in reached:
                     reached.add(used)
                     todo.append(used)
-        closed[room] = reached | {room}
+        closed[component] = reached | {component}
     return closed
 
 
@@ -58,42 +58,42 @@ def includes_of(path):
     return INCLUDE.findall(without_comments(path.read_text(encoding="utf-8")))
 
 
-def room_of(src, path):
-    room = path.parent.relative_to(src).as_posix()
-    return "app" if room == "app" or room.startswith("app/") else room
+def component_of(src, path):
+    component = path.parent.relative_to(src).as_posix()
+    return "app" if component == "app" or component.startswith("app/") else component
 
 
-def is_own_system_place(room):
-    return room == "app" or room.split("/")[-1] == "win32"
+def is_own_system_place(component):
+    return component == "app" or component.split("/")[-1] == "win32"
 
 
 def check_includes(src, table, closed):
     for path in code_files(src):
-        room, name = room_of(src, path), path.relative_to(src).as_posix()
+        component, name = component_of(src, path), path.relative_to(src).as_posix()
         for own, system in includes_of(path):
-            if (system or own).lower() in SYSTEM and not is_own_system_place(room):
+            if (system or own).lower() in SYSTEM and not is_own_system_place(component):
                 yield f"{name}: includes the operating system's <{system or own}>"
             used = str(pathlib.PurePosixPath(own).parent) if own else ""
-            if used in table and room not in OUTSIDE_THE_TABLE:
-                if used not in closed.get(room, {room}):
+            if used in table and component not in OUTSIDE_THE_TABLE:
+                if used not in closed.get(component, {component}):
                     yield f"{name}: may not use {own}"
             elif own and (src / own).exists() is False and (path.parent / own).exists():
-                yield f'{name}: include "{own}" by its room'
+                yield f'{name}: include "{own}" by its component'
 
 
 def check_folders(src, table):
-    for room in sorted({room_of(src, path) for path in code_files(src)}):
-        if room not in table and room not in OUTSIDE_THE_TABLE:
-            yield f"{room}: is not a room of the table"
+    for component in sorted({component_of(src, path) for path in code_files(src)}):
+        if component not in table and component not in OUTSIDE_THE_TABLE:
+            yield f"{component}: is not a component of the table"
 
 
 def check_table(table):
-    for room, links in table.items():
+    for component, links in table.items():
         for used in sorted(links - set(table)):
-            yield f"{room}: links {used}, which is no room"
-    for room in table:
-        if room in set().union(*(close(table)[used] for used in table[room] & set(table)), set()):
-            yield f"{room}: uses itself by way of others"
+            yield f"{component}: links {used}, which is no component"
+    for component in table:
+        if component in set().union(*(close(table)[used] for used in table[component] & set(table)), set()):
+            yield f"{component}: uses itself by way of others"
 
 
 def check_circles(src):
@@ -121,7 +121,7 @@ def check_circles(src):
             yield from visit(path)
 
 
-def breaches(src):
+def violations(src):
     table = read_table(src)
     closed = close(table)
     yield from check_table(table)
@@ -139,10 +139,10 @@ def main(arguments):
     if not files:
         print(f"no code under {src}")
         return 2
-    found = list(breaches(src))
+    found = list(violations(src))
     for line in found:
         print(line)
-    print(f"{len(files)} files, {len(read_table(src))} rooms, {len(found)} breaches")
+    print(f"{len(files)} files, {len(read_table(src))} components, {len(found)} violations")
     return 1 if found else 0
 
 

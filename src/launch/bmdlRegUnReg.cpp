@@ -1,4 +1,4 @@
-#include "shell/launch/bmdlRegUnReg.h"
+#include "launch/bmdlRegUnReg.h"
 
 #include "text/ErrorTrap.h"
 

@@ -1,12 +1,12 @@
 // The opening of pages and of the log file in the user's default browser, which is found in the
 // registry and started as a process with a command line of its own.
-#ifndef VANTREL_SHELL_LAUNCH_OPENURL_H_
-#define VANTREL_SHELL_LAUNCH_OPENURL_H_
+#ifndef VANTREL_LAUNCH_OPENURL_H_
+#define VANTREL_LAUNCH_OPENURL_H_
 
 #include <string>
 
+#include "launch/Targets.h"
 #include "program/Program.h"
-#include "shell/launch/Targets.h"
 
 namespace vantrel::launch {
 
@@ -30,4 +30,4 @@ void OpenLogFile(program::Program& program);
 
 }  // namespace vantrel::launch
 
-#endif  // VANTREL_SHELL_LAUNCH_OPENURL_H_
+#endif  // VANTREL_LAUNCH_OPENURL_H_
