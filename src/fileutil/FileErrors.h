@@ -17,6 +17,7 @@ inline constexpr FileErrorRow FileErrorRows[] = {
     {2, text::ErrorNumber::FileNotFound},       // no such file
     {3, text::ErrorNumber::PathNotFound},       // no such folder
     {5, text::ErrorNumber::PermissionDenied},   // refused
+    {8, text::ErrorNumber::OutOfMemory},        // no memory for the content
     {32, text::ErrorNumber::PermissionDenied},  // locked by somebody else
     {112, text::ErrorNumber::DiskFull},         // disk full
 };

@@ -31,6 +31,11 @@ class MemorySubject : public Subject {
   }
   void Hide(const std::string& path) override { world_.files.SetHidden(path, true); }
   bool IsHidden(const std::string& path) override { return world_.files.IsHidden(path); }
+  void ProtectFromWriting(const std::string& path) override {
+    world_.files.SetReadOnly(path, true);
+  }
+  // Files that others have open and share are as those that nobody has open.
+  void OpenShared(const std::string&) override {}
   void Lock(const std::string& path) override {
     locked_ = path;
     world_.files.SetLocked(path, true);

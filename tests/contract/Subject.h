@@ -32,6 +32,10 @@ class Subject {
   virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
   virtual void Hide(const std::string& path) = 0;
   virtual bool IsHidden(const std::string& path) = 0;
+  virtual void ProtectFromWriting(const std::string& path) = 0;
+  // Opens the file for reading and writing, shared with readers and writers, until the subject
+  // dies.
+  virtual void OpenShared(const std::string& path) = 0;
   // Opens the file for itself alone, until told otherwise or the subject dies.
   virtual void Lock(const std::string& path) = 0;
   virtual void Unlock() = 0;

@@ -26,7 +26,8 @@ const std::vector<std::string>& CallNames() {
       "ShowWindow",           "SetForegroundWindow", "SetParent",          "SendMessageA",
       "SendTextMessageA",     "SetWindowLongA",      "keybd_event",        "GetCursorPos",
       "WindowFromPoint",      "Shell_NotifyIconA",   "ShellExecuteA",      "FileExists",
-      "WriteTextFile",        "CreateProcessA",      "sndPlaySoundA",      "MessageBoxA",
+      "FileLength",           "ReadTextFile",        "CreateTextFile",     "WriteTextFile",
+      "AppendTextFile",       "CreateProcessA",      "sndPlaySoundA",      "MessageBoxA",
       "GetVersionExA",        "CommandLineTail",     "ProgramFolder",      "ProgramName",
       "PreviousInstanceRuns",
   };

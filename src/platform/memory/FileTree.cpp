@@ -140,28 +140,62 @@ std::vector<std::string> FileTree::AllFiles() const {
   return paths;
 }
 
-std::int32_t FileTree::Refusal(const std::string& path) const {
+std::int32_t FileTree::NameRefusal(const std::string& path) const {
   const std::string cleaned = Clean(path);
   if (cleaned.empty() || !IsFull(cleaned)) return ErrorPathNotFound;
   if (HasForbiddenCharacter(cleaned)) return ErrorInvalidName;
+  const Entry* const entry = Find(cleaned);
+  if (entry == nullptr && !IsFolder(FolderOf(cleaned))) return ErrorPathNotFound;
   const bool slash = path.back() == '\\' || path.back() == '/';
-  if (const Entry* const entry = Find(cleaned)) {
-    if (!entry->folder && slash) return ErrorInvalidName;
-    if (entry->folder || entry->readOnly) return ErrorAccessDenied;
-    return entry->locked ? ErrorSharingViolation : ErrorSuccess;
-  }
-  if (!IsFolder(FolderOf(cleaned))) return ErrorPathNotFound;
-  return slash ? ErrorInvalidName : ErrorSuccess;
+  return slash && (entry == nullptr || !entry->folder) ? ErrorInvalidName : ErrorSuccess;
 }
 
+std::int32_t FileTree::ReadRefusal(const std::string& path) const {
+  if (const std::int32_t refusal = NameRefusal(path); refusal != ErrorSuccess) return refusal;
+  const Entry* const entry = Find(path);
+  if (entry == nullptr) return ErrorFileNotFound;
+  if (entry->folder) return ErrorAccessDenied;
+  return entry->locked ? ErrorSharingViolation : ErrorSuccess;
+}
+
+std::int32_t FileTree::WriteRefusal(const std::string& path) const {
+  const std::int32_t refusal = ReadRefusal(path);
+  if (refusal == ErrorFileNotFound) return ErrorSuccess;
+  return refusal == ErrorSuccess && Find(path)->readOnly ? ErrorAccessDenied : refusal;
+}
+
+std::int32_t FileTree::Length(const std::string& path, std::uint64_t& length) const {
+  const std::int32_t refusal = ReadRefusal(path);
+  // A file's entry can be looked at whoever has the file open.
+  if (refusal != ErrorSuccess && refusal != ErrorSharingViolation) return refusal;
+  length = Find(path)->content.size();
+  return ErrorSuccess;
+}
+
+std::int32_t FileTree::Load(const std::string& path, std::string& content) const {
+  content.clear();
+  const std::int32_t refusal = ReadRefusal(path);
+  if (refusal == ErrorSuccess) content = Find(path)->content;
+  return refusal;
+}
+
+std::int32_t FileTree::Create(const std::string& path) { return Append(path, ""); }
+
 std::int32_t FileTree::Write(const std::string& path, const std::string& content) {
-  if (const std::int32_t refusal = Refusal(path); refusal != ErrorSuccess) return refusal;
-  if (freeSpace_ && *freeSpace_ < content.size()) {
-    Put(path, "");
-    return ErrorDiskFull;
+  if (const std::int32_t refusal = WriteRefusal(path); refusal != ErrorSuccess) return refusal;
+  if (const Entry* const entry = Find(path); entry != nullptr && freeSpace_) {
+    *freeSpace_ += entry->content.size();
   }
+  Put(path, "");
+  return Append(path, content);
+}
+
+std::int32_t FileTree::Append(const std::string& path, const std::string& content) {
+  if (const std::int32_t refusal = WriteRefusal(path); refusal != ErrorSuccess) return refusal;
+  if (Find(path) == nullptr) Put(path, "");
+  if (freeSpace_ && *freeSpace_ < content.size()) return ErrorDiskFull;
   if (freeSpace_) *freeSpace_ -= content.size();
-  Put(path, content);
+  Find(path)->content += content;
   return ErrorSuccess;
 }
 

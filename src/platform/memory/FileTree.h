@@ -13,10 +13,6 @@
 
 namespace vantrel::platform::memory {
 
-inline constexpr std::int32_t ErrorSharingViolation = 32;
-inline constexpr std::int32_t ErrorDiskFull = 112;
-inline constexpr std::int32_t ErrorInvalidName = 123;
-
 class FileTree {
  public:
   // A drive C: with nothing on it.
@@ -44,10 +40,12 @@ class FileTree {
   // All files' paths, in alphabetical order.
   std::vector<std::string> AllFiles() const;
 
-  // As the system writes for a program: replaces or creates. 0 or a code: 3 no such folder or an
-  // empty path, 5 a folder or read-only, 32 locked, 112 disk full (the file is then left empty,
-  // as it had been cut), 123 a name with a forbidden character.
+  // As the system does it for a program, with the contract of platform/Files.h.
+  std::int32_t Length(const std::string& path, std::uint64_t& length) const;
+  std::int32_t Load(const std::string& path, std::string& content) const;
+  std::int32_t Create(const std::string& path);
   std::int32_t Write(const std::string& path, const std::string& content);
+  std::int32_t Append(const std::string& path, const std::string& content);
 
  private:
   struct Entry {
@@ -62,7 +60,10 @@ class FileTree {
   Entry* Find(const std::string& path);
   const Entry* Find(const std::string& path) const;
   Entry& Existing(const std::string& path);
-  std::int32_t Refusal(const std::string& path) const;
+  // The codes of a path that is no name, of one to be read, and of one to be written.
+  std::int32_t NameRefusal(const std::string& path) const;
+  std::int32_t ReadRefusal(const std::string& path) const;
+  std::int32_t WriteRefusal(const std::string& path) const;
 
   std::map<std::string, Entry> entries_;  // by folded path
   std::optional<std::uint64_t> freeSpace_;

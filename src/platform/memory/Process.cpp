@@ -210,10 +210,33 @@ class FilesView : public Files {
         [](std::int32_t) { return false; });
   }
 
+  std::int32_t FileLength(const std::string& path, std::uint64_t& length) override {
+    return context_.gate.RunCode("FileLength", Quoted(path), [&] {
+      return context_.world.files.Length(UpToNul(path), length);
+    });
+  }
+
+  std::int32_t ReadTextFile(const std::string& path, std::string& content) override {
+    content.clear();
+    return context_.gate.RunCode("ReadTextFile", Quoted(path),
+                                 [&] { return context_.world.files.Load(UpToNul(path), content); });
+  }
+
+  std::int32_t CreateTextFile(const std::string& path) override {
+    return context_.gate.RunCode("CreateTextFile", Quoted(path),
+                                 [&] { return context_.world.files.Create(UpToNul(path)); });
+  }
+
   std::int32_t WriteTextFile(const std::string& path, const std::string& content) override {
     return context_.gate.RunCode(
         "WriteTextFile", Quoted(path) + ' ' + std::to_string(content.size()),
         [&] { return context_.world.files.Write(UpToNul(path), content); });
+  }
+
+  std::int32_t AppendTextFile(const std::string& path, const std::string& content) override {
+    return context_.gate.RunCode(
+        "AppendTextFile", Quoted(path) + ' ' + std::to_string(content.size()),
+        [&] { return context_.world.files.Append(UpToNul(path), content); });
   }
 
  private:

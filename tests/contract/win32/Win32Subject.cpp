@@ -53,6 +53,7 @@ class Win32Subject : public Subject {
  public:
   ~Win32Subject() override {
     Unlock();
+    shared_.Reset();
     LetGo();
     for (const HWND window : windows_) ::DestroyWindow(window);
     if (!folder_.empty()) DeleteFolder(folder_);
@@ -88,6 +89,15 @@ class Win32Subject : public Subject {
   }
   bool IsHidden(const std::string& path) override {
     return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0;
+  }
+  void ProtectFromWriting(const std::string& path) override {
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  }
+  void OpenShared(const std::string& path) override {
+    shared_.Reset(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
+                              nullptr));
+    ASSERT_TRUE(shared_.Valid());
   }
   void Lock(const std::string& path) override {
     lock_.Reset(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
@@ -133,6 +143,7 @@ class Win32Subject : public Subject {
   std::unique_ptr<win32::Win32Platform> another_;
   std::string folder_;
   win32::FileHandle lock_;
+  win32::FileHandle shared_;
   // What the hanging entries of the library wait for.
   win32::KernelHandle letGo_{CreateEventA(nullptr, TRUE, FALSE, "VantrelContractLetGo")};
   std::vector<HWND> windows_;

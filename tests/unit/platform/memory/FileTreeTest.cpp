@@ -36,12 +36,23 @@ TEST(FileTree, ReadOnlyAndLockedFilesRefuse) {
 
 TEST(FileTree, FullDiskLeavesTheFileCut) {
   FileTree files;
-  files.Put("C:\\a", "before");
+  files.Put("C:\\a", "x");
   files.SetFreeSpace(3);
   EXPECT_EQ(files.Write("C:\\a", "after"), 112);
   EXPECT_EQ(files.Read("C:\\a"), "");
-  EXPECT_EQ(files.Write("C:\\a", "abc"), 0);
-  EXPECT_EQ(files.Write("C:\\a", "d"), 112);
+  EXPECT_EQ(files.Write("C:\\a", "abcd"), 0);
+}
+
+TEST(FileTree, CuttingAFileGivesItsSpaceBackAndAFailedAppendTakesNone) {
+  FileTree files;
+  files.Put("C:\\a", "");
+  files.SetFreeSpace(4);
+  EXPECT_EQ(files.Write("C:\\a", "abcd"), 0);
+  EXPECT_EQ(files.Append("C:\\a", "e"), 112);
+  EXPECT_EQ(files.Write("C:\\a", "ab"), 0);
+  EXPECT_EQ(files.Append("C:\\a", "cde"), 112);
+  EXPECT_EQ(files.Append("C:\\a", "cd"), 0);
+  EXPECT_EQ(files.Read("C:\\a"), "abcd");
 }
 
 TEST(FileTree, RemovingAFolderTakesWhatIsBelowAndNoNeighbour) {
