@@ -1,6 +1,7 @@
 #include "allowlist/Attach.h"
 
 #include "program/PanelHosting.h"
+#include "windows/FrmFrameAllowList.h"
 
 namespace vantrel::allowlist {
 

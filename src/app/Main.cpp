@@ -9,6 +9,7 @@
 #include "shell/Attach.h"
 #include "shell/Lifetime.h"
 #include "shell/Startup.h"
+#include "windows/frmMain.h"
 
 int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*/, int /*show*/) {
   using namespace vantrel;

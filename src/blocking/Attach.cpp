@@ -4,6 +4,10 @@
 #include "blocking/GeneralSettingsPanel.h"
 #include "blocking/NotificationPanel.h"
 #include "blocking/WelcomePanel.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
 
 namespace vantrel::blocking {
 namespace {

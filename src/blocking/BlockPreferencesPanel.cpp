@@ -8,6 +8,7 @@
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
 #include "text/ScopedFlag.h"
+#include "windows/FrmFrameBlockPreferences.h"
 
 namespace vantrel::blocking {
 namespace {

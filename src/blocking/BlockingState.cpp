@@ -2,6 +2,9 @@
 
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -6,6 +6,8 @@
 #include "settings/StartWithWindowsRegistry.h"
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -4,6 +4,7 @@
 #include "program/PanelHosting.h"
 #include "settings/bmdlSave.h"
 #include "text/ScopedFlag.h"
+#include "windows/FrmFrameNotification.h"
 
 namespace vantrel::blocking {
 namespace {

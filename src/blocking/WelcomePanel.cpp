@@ -4,6 +4,8 @@
 #include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
 #include "statistics/RefreshCounters.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameMain.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -1,6 +1,7 @@
 #include "cleaning/Attach.h"
 
 #include "program/PanelHosting.h"
+#include "windows/FrmFrameHistory.h"
 
 namespace vantrel::cleaning {
 

@@ -1,6 +1,8 @@
 #include "iemaintenance/Attach.h"
 
 #include "program/PanelHosting.h"
+#include "windows/FrmFrameIEPlugin.h"
+#include "windows/FrmFrameIESettings.h"
 
 namespace vantrel::iemaintenance {
 namespace {

@@ -1,5 +1,7 @@
 #include "program/PanelHosting.h"
 
+#include "windows/frmMain.h"
+
 namespace vantrel::program {
 
 void HostPanel(Program& program, forms::Form& panel) {

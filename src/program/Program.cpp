@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "windows/frmMain.h"
+
 namespace vantrel::program {
 namespace {
 

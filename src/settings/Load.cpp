@@ -6,6 +6,7 @@
 #include "settings/WriteValue.h"
 #include "settings/bmdlReg.h"
 #include "text/Numbers.h"
+#include "windows/FrmFrameNotification.h"
 
 namespace vantrel::settings {
 namespace {

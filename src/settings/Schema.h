@@ -11,6 +11,10 @@
 #include <variant>
 
 #include "program/Program.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
 
 namespace vantrel::settings {
 

@@ -1,6 +1,7 @@
 #include "settings/WriteValue.h"
 
 #include "settings/bmdlReg.h"
+#include "windows/FrmFrameNotification.h"
 
 namespace vantrel::settings {
 namespace {

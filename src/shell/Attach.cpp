@@ -11,6 +11,9 @@
 #include "shell/Startup.h"
 #include "shell/Tray.h"
 #include "statistics/Attach.h"
+#include "windows/FrmAbout.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

@@ -8,6 +8,9 @@
 #include "shell/Navigation.h"
 #include "shell/bmdlActivate.h"
 #include "text/Strings.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {

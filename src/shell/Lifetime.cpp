@@ -6,6 +6,8 @@
 #include "settings/Schema.h"
 #include "settings/bmdlReg.h"
 #include "shell/Navigation.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

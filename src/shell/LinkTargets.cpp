@@ -6,6 +6,18 @@
 #include <variant>
 
 #include "launch/OpenUrl.h"
+#include "windows/FrmAbout.h"
+#include "windows/FrmFrameAllowList.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameIEPlugin.h"
+#include "windows/FrmFrameIESettings.h"
+#include "windows/FrmFrameLog.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

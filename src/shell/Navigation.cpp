@@ -4,6 +4,13 @@
 #include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
 #include "shell/CheckAndRepair.h"
+#include "windows/FrmAbout.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {
@@ -13,10 +20,9 @@ using windows::frmMain;
 using Operation = void (*)(Program&);
 
 // Makes the panel visible and lets a click through before anything else happens.
-template <class Slot>
-void ShowPanel(Program& program, Slot& panel) {
+void ShowPanel(Program& program, program::FormSlot& panel) {
   HideHelpFrame(program);
-  panel->Show();
+  panel.Touch().Show();
   program.DoEvents();
 }
 
@@ -160,16 +166,7 @@ static_assert(EachOnce(MenuEntries, &MenuRow::entry), "a menu entry has one row"
 }  // namespace
 
 void HideAll(Program& program) {
-  auto& windows = program.windows;
-  windows.FrmFrameBlockPreferences->Hide();
-  windows.FrmFrameSettings->Hide();
-  windows.FrmFrameHistory->Hide();
-  windows.FrmFrameAllowList->Hide();
-  windows.FrmFrameNotification->Hide();
-  windows.FrmFrameIESettings->Hide();
-  windows.FrmFrameIEPlugin->Hide();
-  windows.FrmFrameGraph->Hide();
-  windows.FrmFrameLog->Hide();
+  for (program::FormSlot* panel : program.windows.UpperPanels) panel->Touch().Hide();
 }
 
 void HideHelpFrame(Program& program) { program.windows.frmMain->frahelp.SetVisible(false); }

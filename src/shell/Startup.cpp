@@ -13,6 +13,9 @@
 #include "text/ErrorTrap.h"
 #include "text/Numbers.h"
 #include "text/ScopedFlag.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {
@@ -74,23 +77,11 @@ std::string PrepareWindow(Program& program, frmMain& form) {
   return program.platform.system.CommandLineTail();
 }
 
-template <class Slot>
-void LoadPanel(Program& program, Slot& panel) {
-  panel.EnsureLoaded();
-  program.DoEvents();
-}
-
 void LoadPanels(Program& program) {
-  auto& windows = program.windows;
-  LoadPanel(program, windows.FrmFrameBlockPreferences);
-  LoadPanel(program, windows.FrmFrameSettings);
-  LoadPanel(program, windows.FrmFrameHistory);
-  LoadPanel(program, windows.FrmFrameAllowList);
-  LoadPanel(program, windows.FrmFrameNotification);
-  LoadPanel(program, windows.FrmFrameIESettings);
-  LoadPanel(program, windows.FrmFrameIEPlugin);
-  LoadPanel(program, windows.FrmFrameGraph);
-  LoadPanel(program, windows.FrmFrameLog);
+  for (program::FormSlot* panel : program.windows.UpperPanels) {
+    panel->EnsureLoaded();
+    program.DoEvents();
+  }
 }
 
 // An engine's entry under an identifier that is not the engine's own.

@@ -5,6 +5,8 @@
 
 #include "program/PanelHosting.h"
 #include "text/Numbers.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

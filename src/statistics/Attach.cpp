@@ -2,6 +2,8 @@
 
 #include "statistics/DetailLogPanel.h"
 #include "statistics/GraphPanel.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameLog.h"
 
 namespace vantrel::statistics {
 

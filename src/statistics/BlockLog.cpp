@@ -6,6 +6,8 @@
 #include "settings/Schema.h"
 #include "settings/bmdlReg.h"
 #include "text/Numbers.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameMain.h"
 
 namespace vantrel::statistics {
 namespace {

@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "program/Program.h"
+#include "windows/FrmFrameGraph.h"
 
 namespace vantrel::statistics {
 

@@ -5,6 +5,8 @@
 #include "program/PanelHosting.h"
 #include "statistics/BlockLog.h"
 #include "statistics/RefreshCounters.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameLog.h"
 
 namespace vantrel::statistics {
 namespace {

@@ -4,6 +4,8 @@
 
 #include "statistics/BlockLog.h"
 #include "text/ScopedFlag.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameLog.h"
 
 namespace vantrel::statistics {
 namespace {

@@ -4,6 +4,7 @@
 #include "shell/Attach.h"
 #include "shell/Startup.h"
 #include "support/ProgramFixture.h"
+#include "windows/frmMain.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "app/console/Names.h"
 #include "app/console/Screen.h"
 #include "app/console/Words.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::console {
 namespace {

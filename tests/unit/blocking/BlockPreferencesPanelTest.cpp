@@ -9,6 +9,8 @@
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -5,6 +5,11 @@
 #include "blocking/BlockingState.h"
 #include "statistics/Attach.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -8,6 +8,9 @@
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::blocking {
 namespace {

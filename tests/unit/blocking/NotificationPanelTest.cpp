@@ -6,6 +6,7 @@
 #include "settings/FirstRun.h"
 #include "settings/Load.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameNotification.h"
 
 namespace vantrel::blocking {
 namespace {

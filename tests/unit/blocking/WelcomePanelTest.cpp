@@ -7,6 +7,10 @@
 #include "settings/FirstRun.h"
 #include "statistics/Attach.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameLog.h"
+#include "windows/FrmFrameMain.h"
 
 namespace vantrel::blocking {
 namespace {

@@ -4,6 +4,7 @@
 #include "program/Windows.h"
 #include "support/ComponentFixture.h"
 #include "text/RuntimeError.h"
+#include "windows/FrmFrameLog.h"
 
 namespace vantrel::program {
 namespace {

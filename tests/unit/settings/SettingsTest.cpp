@@ -7,6 +7,10 @@
 #include "settings/Schema.h"
 #include "settings/bmdlSave.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
 
 namespace vantrel::settings {
 namespace {

@@ -1,6 +1,7 @@
 // Starts over stores that somebody else has broken: every value that a start reads, broken in every
 // way, and stores that refuse to be read or written. The window works behind each of them.
 #include "unit/shell/Machine.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

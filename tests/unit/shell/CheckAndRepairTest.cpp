@@ -2,6 +2,7 @@
 
 #include "shell/CheckAndRepair.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

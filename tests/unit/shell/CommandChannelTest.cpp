@@ -4,6 +4,13 @@
 #include "shell/Navigation.h"
 #include "shell/bmdlActivate.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {

@@ -6,6 +6,10 @@
 #include <utility>
 
 #include "unit/shell/Machine.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

@@ -4,6 +4,7 @@
 #include "shell/LinkTargets.h"
 #include "support/LinkTable.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmAbout.h"
 
 namespace vantrel::shell {
 namespace {

@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::test {
 

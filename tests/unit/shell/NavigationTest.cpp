@@ -2,6 +2,14 @@
 
 #include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmAbout.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameLog.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {

@@ -14,6 +14,9 @@
 #include "blocking/BlockingState.h"
 #include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

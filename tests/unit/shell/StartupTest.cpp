@@ -1,6 +1,13 @@
 #include <gmock/gmock.h>
 
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {

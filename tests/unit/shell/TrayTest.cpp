@@ -3,6 +3,12 @@
 #include "shell/Lifetime.h"
 #include "shell/Tray.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::shell {
 namespace {

@@ -8,6 +8,10 @@
 #include "statistics/GraphPanel.h"
 #include "statistics/RefreshCounters.h"
 #include "support/ComponentFixture.h"
+#include "windows/FrmFrameGraph.h"
+#include "windows/FrmFrameLog.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::statistics {
 namespace {
