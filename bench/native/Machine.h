@@ -30,11 +30,6 @@ struct Machine {
   }
 
   platform::Registry& Registry() { return program.platform.registry; }
-  // The traces of calls would grow with each round.
-  void ForgetCalls() {
-    world.trace.Clear();
-    process.Trace().Clear();
-  }
 
   FilledWorld world;
   platform::memory::Process process{world};

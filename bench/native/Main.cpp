@@ -52,7 +52,6 @@ void ReadValue(benchmark::State& state) {
   for (auto _ : state) {
     benchmark::DoNotOptimize(settings::ReadRegistryValue(
         machine.Registry(), platform::HKeyCurrentUser, CountersKey, "Flash"));
-    machine.ForgetCalls();
   }
 }
 
@@ -60,7 +59,6 @@ void ReadValuePlain(benchmark::State& state) {
   Machine machine;
   for (auto _ : state) {
     benchmark::DoNotOptimize(std::to_string(PlainRead(machine.Registry(), "Flash")));
-    machine.ForgetCalls();
   }
 }
 
@@ -76,7 +74,6 @@ void Tick(benchmark::State& state) {
   for (auto _ : state) {
     CountOne(machine, count);
     statistics::RefreshCounters(machine.program);
-    machine.ForgetCalls();
   }
   const auto& shown = machine.program.windows.FrmFrameGraph->txtFlash;
   if (shown.Text() == "0") state.SkipWithError("the tick shows nothing");
@@ -95,7 +92,6 @@ void TickPlain(benchmark::State& state) {
     for (std::size_t counter = 0; counter < Counters.size(); ++counter) {
       boxes[counter]->SetText(std::to_string(PlainRead(machine.Registry(), Counters[counter])));
     }
-    machine.ForgetCalls();
   }
 }
 
@@ -109,7 +105,6 @@ void MasterClick(benchmark::State& state) {
   int wanted = 1;
   for (auto _ : state) {
     panel.chkAll.UserClick();
-    machine.ForgetCalls();
     wanted = 1 - wanted;
     for (const forms::CheckBox* box : boxes) {
       if (box->Value() != wanted) state.SkipWithError("a box does not follow the master");
@@ -128,7 +123,6 @@ void MasterClickPlain(benchmark::State& state) {
     for (int box = 0; box < MasterBoxes; ++box) {
       for (const std::string& name : names) PlainWrite(machine.Registry(), name, flag);
     }
-    machine.ForgetCalls();
   }
 }
 

@@ -55,7 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check(!running.copy->toolkit.Ending(), "no command ends the program");
   Check(running.copy->process.OpenKeys() == 0, "no key stays open");
   running.copy->process.Trace().Clear();
-  running.world.trace.Clear();
   running.copy->process.ClearBoxes();
   return 0;
 }

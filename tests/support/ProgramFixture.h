@@ -56,6 +56,7 @@ struct Copy {
         program(process.Platform(), toolkit),
         user(toolkit) {
     process.EndThread = [this] { toolkit.End(); };
+    process.Trace().Start();
   }
 
   program::Windows& Windows() { return program.windows; }

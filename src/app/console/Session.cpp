@@ -15,7 +15,7 @@ namespace vantrel::console {
 
 namespace memory = platform::memory;
 
-Session::Session(std::ostream& out) : out_(out), world_(FreshWindows()) {}
+Session::Session(std::ostream& out) : out_(out), world_(FreshWindows()) { world_->trace.Start(); }
 
 // The later copies were started by the earlier ones' hand and go first.
 Session::~Session() {
@@ -25,6 +25,7 @@ Session::~Session() {
 void Session::Replace(std::unique_ptr<memory::World> world) {
   if (!copies_.empty()) throw CommandError("a copy of the program runs; end it first");
   world_ = std::move(world);
+  world_->trace.Start();
   seen_ = {};
 }
 
@@ -122,7 +123,6 @@ void Session::Before() {
   lastCalls_ = world_->trace.Lines();
   world_->trace.Clear();
   seen_.calls = 0;
-  for (const auto& copy : copies_) copy->Process.Trace().Clear();
 }
 
 void Session::After() {

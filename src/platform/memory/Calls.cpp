@@ -1,5 +1,6 @@
 #include "platform/memory/Calls.h"
 
+#include "platform/memory/CallNames.h"
 #include "platform/memory/Misuse.h"
 
 namespace vantrel::platform::memory {
@@ -7,11 +8,26 @@ namespace {
 
 std::string NameOf(const std::string& line) { return line.substr(0, line.find(' ')); }
 
+std::optional<std::int32_t> CodeOf(const std::map<std::size_t, std::int32_t>& failing,
+                                   std::size_t number) {
+  const auto found = failing.find(number);
+  return found == failing.end() ? std::nullopt : std::optional(found->second);
+}
+
 }  // namespace
+
+void Trace::Add(const std::string& line) {
+  if (records_) lines_.push_back(line);
+}
+
+const std::vector<std::string>& Trace::Lines() const {
+  Require(records_, "a trace is read that was not started");
+  return lines_;
+}
 
 std::vector<std::string> Trace::LinesOf(const std::string& name) const {
   std::vector<std::string> found;
-  for (const std::string& line : lines_) {
+  for (const std::string& line : Lines()) {
     if (NameOf(line) == name) found.push_back(line);
   }
   return found;
@@ -19,8 +35,18 @@ std::vector<std::string> Trace::LinesOf(const std::string& name) const {
 
 std::vector<std::string> Trace::Names() const {
   std::vector<std::string> names;
-  for (const std::string& line : lines_) names.push_back(NameOf(line));
+  for (const std::string& line : Lines()) names.push_back(NameOf(line));
   return names;
+}
+
+FaultPlan::FaultPlan() {
+  for (const std::string_view name : CallNames) names_[name];
+}
+
+FaultPlan::OneName& FaultPlan::Of(std::string_view name) {
+  const auto found = names_.find(name);
+  if (found == names_.end()) Misuse("no call is named " + std::string(name));
+  return found->second;
 }
 
 void FaultPlan::FailNthCall(std::size_t n, std::int32_t errorCode) {
@@ -28,39 +54,31 @@ void FaultPlan::FailNthCall(std::size_t n, std::int32_t errorCode) {
   failing_[calls_ + n] = errorCode;
 }
 
-void FaultPlan::FailCall(const std::string& name, std::size_t n, std::int32_t errorCode) {
+void FaultPlan::FailCall(std::string_view name, std::size_t n, std::int32_t errorCode) {
   Require(n > 0, "calls count from 1");
-  failingOf_[name][CallsOf(name) + n] = errorCode;
+  OneName& of = Of(name);
+  of.failing[of.calls + n] = errorCode;
 }
 
-void FaultPlan::FailEvery(const std::string& name, std::int32_t errorCode) {
-  failingEvery_[name] = errorCode;
+void FaultPlan::FailEvery(std::string_view name, std::int32_t errorCode) {
+  Of(name).failingEvery = errorCode;
 }
 
 void FaultPlan::Clear() {
   failing_.clear();
-  failingOf_.clear();
-  failingEvery_.clear();
+  for (auto& [name, of] : names_) {
+    of.failing.clear();
+    of.failingEvery.reset();
+  }
 }
 
-std::size_t FaultPlan::CallsOf(const std::string& name) const {
-  const auto found = callsOf_.find(name);
-  return found == callsOf_.end() ? 0 : found->second;
-}
-
-std::optional<std::int32_t> FaultPlan::Count(const std::string& name) {
-  const std::size_t number = ++calls_;
-  const std::size_t numberOf = ++callsOf_[name];
-  std::optional<std::int32_t> code;
-  if (const auto every = failingEvery_.find(name); every != failingEvery_.end()) {
-    code = every->second;
-  }
-  if (const auto named = failingOf_.find(name); named != failingOf_.end()) {
-    const auto found = named->second.find(numberOf);
-    if (found != named->second.end()) code = found->second;
-  }
-  if (const auto found = failing_.find(number); found != failing_.end()) code = found->second;
-  failed_ += code.has_value() ? 1 : 0;
+// The plan for the n-th call of all goes before that for the n-th of the name.
+std::optional<std::int32_t> FaultPlan::Count(std::string_view name) {
+  OneName& of = Of(name);
+  std::optional<std::int32_t> code = CodeOf(failing_, ++calls_);
+  const std::optional<std::int32_t> named = CodeOf(of.failing, ++of.calls);
+  if (!code) code = named ? named : of.failingEvery;
+  failed_ += code ? 1 : 0;
   return code;
 }
 

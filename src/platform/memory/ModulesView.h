@@ -11,7 +11,6 @@
 #include <string>
 
 #include "platform/Modules.h"
-#include "platform/memory/CallGate.h"
 #include "platform/memory/World.h"
 
 namespace vantrel::platform::memory {
@@ -19,12 +18,14 @@ namespace vantrel::platform::memory {
 class ModulesView : public Modules {
  public:
   // `unwind` leaves the thread that ExitThread ends, by throwing.
-  ModulesView(World& world, ProcessId process, CallGate& gate, const std::function<void()>& unwind)
-      : world_(world), process_(process), gate_(gate), unwind_(unwind) {}
+  ModulesView(World& world, ProcessId process, const std::function<void()>& unwind)
+      : world_(world), process_(process), unwind_(unwind) {}
   // What the process has loaded goes with it.
   ~ModulesView() override;
 
   std::size_t OpenThreads() const { return threads_.size(); }
+  // The library's path as first given; empty for a handle that is none.
+  std::string PathOf(ModuleHandle module) const;
   const std::optional<std::uint32_t>& ThreadExitCode() const { return ended_; }
 
   ModuleHandle LoadLibraryA(const std::string& path) override;
@@ -44,15 +45,8 @@ class ModulesView : public Modules {
     std::size_t times = 0;
   };
 
-  ModuleHandle Load(const std::string& path);
-  bool Free(ModuleHandle module);
-  std::uint32_t Wait(ThreadHandle thread, std::uint32_t milliseconds) const;
-  // For the trace: the library's path.
-  std::string Describe(ModuleHandle module) const;
-
   World& world_;
   ProcessId process_;
-  CallGate& gate_;
   const std::function<void()>& unwind_;
   std::map<ModuleHandle, Loaded> modules_;
   std::map<ThreadHandle, std::shared_ptr<Thread>> threads_;

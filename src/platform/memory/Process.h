@@ -13,18 +13,10 @@
 
 #include "platform/Platform.h"
 #include "platform/memory/Calls.h"
+#include "platform/memory/DialogsView.h"
 #include "platform/memory/World.h"
 
 namespace vantrel::platform::memory {
-
-struct Box {
-  WindowHandle owner = 0;
-  std::string text;
-  std::string title;
-  std::uint32_t style = 0;
-
-  friend bool operator==(const Box&, const Box&) = default;
-};
 
 class Process {
  public:
@@ -55,7 +47,7 @@ class Process {
   std::function<int(const Box&)> AnswerBox;
 
   FaultPlan& Faults();
-  // This process's calls alone; the world's trace has all.
+  // This process's calls alone; the world's trace has all. Neither records before it is started.
   memory::Trace& Trace();
 
   std::size_t OpenKeys() const;

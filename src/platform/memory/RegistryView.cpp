@@ -114,8 +114,8 @@ std::int32_t RegistryView::Grant(const std::shared_ptr<RegistryKey>& key, std::u
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::Open(KeyHandle root, const std::string& subkey, std::uint32_t access,
-                                KeyHandle& opened) {
+std::int32_t RegistryView::RegOpenKeyExA(KeyHandle root, const std::string& subkey,
+                                         std::uint32_t access, KeyHandle& opened) {
   // A root is not opened again.
   if (UpToNul(subkey).empty() && tree_.Root(root)) {
     opened = root;
@@ -126,8 +126,9 @@ std::int32_t RegistryView::Open(KeyHandle root, const std::string& subkey, std::
   return Grant(key, access, opened);
 }
 
-std::int32_t RegistryView::Create(KeyHandle root, const std::string& subkey, std::uint32_t access,
-                                  KeyHandle& opened) {
+std::int32_t RegistryView::RegCreateKeyExA(KeyHandle root, const std::string& subkey,
+                                           std::uint32_t access, bool /*withSecurityRecord*/,
+                                           KeyHandle& opened) {
   const OpenKey open = Lookup(root);
   if (const std::int32_t code = Check(open, 0); code != ErrorSuccess) return code;
   std::vector<std::string> parts;
@@ -142,8 +143,9 @@ std::int32_t RegistryView::Create(KeyHandle root, const std::string& subkey, std
   return Grant(key, access, opened);
 }
 
-std::int32_t RegistryView::Query(KeyHandle key, const std::string& valueName, std::uint32_t& type,
-                                 std::span<char> buffer, std::uint32_t& length) const {
+std::int32_t RegistryView::RegQueryValueExA(KeyHandle key, const std::string& valueName,
+                                            std::uint32_t& type, std::span<char> buffer,
+                                            std::uint32_t& length) {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, QueryValue); code != ErrorSuccess) return code;
   const std::string name = UpToNul(valueName);
@@ -162,8 +164,8 @@ std::int32_t RegistryView::Query(KeyHandle key, const std::string& valueName, st
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::Set(KeyHandle key, const std::string& valueName, std::uint32_t type,
-                               std::string_view data) const {
+std::int32_t RegistryView::RegSetValueExA(KeyHandle key, const std::string& valueName,
+                                          std::uint32_t type, std::string_view data) {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, SetValue); code != ErrorSuccess) return code;
   const std::string name = UpToNul(valueName);
@@ -172,7 +174,7 @@ std::int32_t RegistryView::Set(KeyHandle key, const std::string& valueName, std:
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::DeleteKey(KeyHandle root, const std::string& subkey) const {
+std::int32_t RegistryView::RegDeleteKeyA(KeyHandle root, const std::string& subkey) {
   std::shared_ptr<RegistryKey> key;
   if (const std::int32_t code = Walk(root, subkey, key); code != ErrorSuccess) return code;
   const bool allowed = (Allowed(*key) & Delete) != 0;
@@ -181,7 +183,7 @@ std::int32_t RegistryView::DeleteKey(KeyHandle root, const std::string& subkey) 
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::DeleteValue(KeyHandle key, const std::string& valueName) const {
+std::int32_t RegistryView::RegDeleteValueA(KeyHandle key, const std::string& valueName) {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, SetValue); code != ErrorSuccess) return code;
   const std::string name = UpToNul(valueName);
@@ -189,9 +191,9 @@ std::int32_t RegistryView::DeleteValue(KeyHandle key, const std::string& valueNa
   return open.key->DeleteValue(name) ? ErrorSuccess : ErrorFileNotFound;
 }
 
-std::int32_t RegistryView::EnumValue(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                                     std::string& name, std::uint32_t& type, std::uint32_t dataRoom,
-                                     std::string& data) const {
+std::int32_t RegistryView::RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                         std::string& name, std::uint32_t& type,
+                                         std::uint32_t dataRoom, std::string& data) {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, QueryValue); code != ErrorSuccess) return code;
   if (index >= open.key->values.size()) return ErrorNoMoreItems;
@@ -203,8 +205,8 @@ std::int32_t RegistryView::EnumValue(KeyHandle key, std::uint32_t index, std::ui
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::EnumKey(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                                   std::string& name) const {
+std::int32_t RegistryView::RegEnumKeyA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
+                                       std::string& name) {
   const OpenKey open = Lookup(key);
   if (const std::int32_t code = Check(open, EnumerateSubKeys); code != ErrorSuccess) return code;
   if (index >= open.key->subkeys.size()) return ErrorNoMoreItems;
@@ -213,91 +215,21 @@ std::int32_t RegistryView::EnumKey(KeyHandle key, std::uint32_t index, std::uint
   return ErrorSuccess;
 }
 
-std::int32_t RegistryView::Close(KeyHandle key) {
+std::int32_t RegistryView::RegCloseKey(KeyHandle key) {
   if (tree_.Root(key)) return ErrorSuccess;
   return open_.erase(key) > 0 ? ErrorSuccess : ErrorInvalidHandle;
 }
 
-std::string RegistryView::Describe(KeyHandle handle, const std::string& subkey) const {
+std::string RegistryView::PathOf(KeyHandle handle) const {
   const OpenKey open = Lookup(handle);
-  const std::string path = open.key ? open.key->Path() : Hex(handle);
-  return subkey.empty() ? path : path + '\\' + subkey;
-}
-
-std::string RegistryView::DescribeValue(KeyHandle handle, const std::string& valueName) const {
-  return Describe(handle) + ' ' + Quoted(valueName);
-}
-
-std::int32_t RegistryView::RegOpenKeyExA(KeyHandle root, const std::string& subkey,
-                                         std::uint32_t access, KeyHandle& opened) {
-  return gate_.RunCode("RegOpenKeyExA", Describe(root, subkey) + ' ' + Hex(access),
-                       [&] { return Open(root, subkey, access, opened); });
+  return open.key ? open.key->Path() : std::string();
 }
 
 std::int32_t RegistryView::RegOpenKeyA(KeyHandle root, const std::string& subkey,
                                        KeyHandle& opened) {
-  return gate_.RunCode("RegOpenKeyA", Describe(root, subkey), [&]() -> std::int32_t {
-    if (UpToNul(subkey).empty()) {
-      opened = root;
-      return ErrorSuccess;
-    }
-    return Open(root, subkey, MaximumAllowed, opened);
-  });
-}
-
-std::int32_t RegistryView::RegCreateKeyExA(KeyHandle root, const std::string& subkey,
-                                           std::uint32_t access, bool withSecurityRecord,
-                                           KeyHandle& opened) {
-  return gate_.RunCode("RegCreateKeyExA",
-                       Describe(root, subkey) + ' ' + Hex(access) +
-                           (withSecurityRecord ? " with a security record" : ""),
-                       [&] { return Create(root, subkey, access, opened); });
-}
-
-std::int32_t RegistryView::RegQueryValueExA(KeyHandle key, const std::string& valueName,
-                                            std::uint32_t& type, std::span<char> buffer,
-                                            std::uint32_t& length) {
-  return gate_.RunCode("RegQueryValueExA",
-                       DescribeValue(key, valueName) + ' ' + std::to_string(length),
-                       [&] { return Query(key, valueName, type, buffer, length); });
-}
-
-std::int32_t RegistryView::RegSetValueExA(KeyHandle key, const std::string& valueName,
-                                          std::uint32_t type, std::string_view data) {
-  std::string arguments = DescribeValue(key, valueName) + ' ' + std::to_string(type);
-  for (const char byte : data) arguments += ' ' + Hex(static_cast<unsigned char>(byte)).substr(2);
-  if (type == RegSz) {
-    arguments = DescribeValue(key, valueName) + " 1 " + Quoted(std::string(data));
-  }
-  return gate_.RunCode("RegSetValueExA", arguments,
-                       [&] { return Set(key, valueName, type, data); });
-}
-
-std::int32_t RegistryView::RegDeleteKeyA(KeyHandle root, const std::string& subkey) {
-  return gate_.RunCode("RegDeleteKeyA", Describe(root, subkey),
-                       [&] { return DeleteKey(root, subkey); });
-}
-
-std::int32_t RegistryView::RegDeleteValueA(KeyHandle key, const std::string& valueName) {
-  return gate_.RunCode("RegDeleteValueA", DescribeValue(key, valueName),
-                       [&] { return DeleteValue(key, valueName); });
-}
-
-std::int32_t RegistryView::RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                                         std::string& name, std::uint32_t& type,
-                                         std::uint32_t dataRoom, std::string& data) {
-  return gate_.RunCode("RegEnumValueA", Describe(key) + ' ' + std::to_string(index),
-                       [&] { return EnumValue(key, index, nameRoom, name, type, dataRoom, data); });
-}
-
-std::int32_t RegistryView::RegEnumKeyA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                                       std::string& name) {
-  return gate_.RunCode("RegEnumKeyA", Describe(key) + ' ' + std::to_string(index),
-                       [&] { return EnumKey(key, index, nameRoom, name); });
-}
-
-std::int32_t RegistryView::RegCloseKey(KeyHandle key) {
-  return gate_.RunCode("RegCloseKey", Describe(key), [&] { return Close(key); });
+  if (!UpToNul(subkey).empty()) return RegOpenKeyExA(root, subkey, MaximumAllowed, opened);
+  opened = root;
+  return ErrorSuccess;
 }
 
 }  // namespace vantrel::platform::memory

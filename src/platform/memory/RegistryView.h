@@ -9,17 +9,18 @@
 #include <string>
 
 #include "platform/Registry.h"
-#include "platform/memory/CallGate.h"
 #include "platform/memory/RegistryTree.h"
 
 namespace vantrel::platform::memory {
 
 class RegistryView : public Registry {
  public:
-  RegistryView(RegistryTree& tree, CallGate& gate) : tree_(tree), gate_(gate) {}
+  explicit RegistryView(RegistryTree& tree) : tree_(tree) {}
 
   // How many keys were opened and not closed.
   std::size_t OpenKeys() const { return open_.size(); }
+  // From the root's short name on; empty for a handle that is not open.
+  std::string PathOf(KeyHandle handle) const;
 
   std::int32_t RegOpenKeyExA(KeyHandle root, const std::string& subkey, std::uint32_t access,
                              KeyHandle& opened) override;
@@ -55,29 +56,7 @@ class RegistryView : public Registry {
   std::int32_t Grant(const std::shared_ptr<RegistryKey>& key, std::uint32_t access,
                      KeyHandle& opened);
 
-  std::int32_t Open(KeyHandle root, const std::string& subkey, std::uint32_t access,
-                    KeyHandle& opened);
-  std::int32_t Create(KeyHandle root, const std::string& subkey, std::uint32_t access,
-                      KeyHandle& opened);
-  std::int32_t Query(KeyHandle key, const std::string& valueName, std::uint32_t& type,
-                     std::span<char> buffer, std::uint32_t& length) const;
-  std::int32_t Set(KeyHandle key, const std::string& valueName, std::uint32_t type,
-                   std::string_view data) const;
-  std::int32_t DeleteKey(KeyHandle root, const std::string& subkey) const;
-  std::int32_t DeleteValue(KeyHandle key, const std::string& valueName) const;
-  std::int32_t EnumValue(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                         std::string& name, std::uint32_t& type, std::uint32_t dataRoom,
-                         std::string& data) const;
-  std::int32_t EnumKey(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
-                       std::string& name) const;
-  std::int32_t Close(KeyHandle key);
-
-  // For the trace: the key's path, with the subkey if there is one.
-  std::string Describe(KeyHandle handle, const std::string& subkey = {}) const;
-  std::string DescribeValue(KeyHandle handle, const std::string& valueName) const;
-
   RegistryTree& tree_;
-  CallGate& gate_;
   std::map<KeyHandle, OpenKey> open_;
   KeyHandle next_ = 0x100;
 };

@@ -2,9 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/memory/CallGate.h"
-#include "platform/memory/RegistryTree.h"
-#include "platform/memory/RegistryView.h"
+#include "platform/memory/Process.h"
+#include "platform/memory/World.h"
 #include "settings/bmdlReg.h"
 #include "text/RuntimeError.h"
 
@@ -28,7 +27,8 @@ std::string Bytes(std::initializer_list<int> bytes) {
 
 class BmdlReg : public testing::Test {
  protected:
-  ~BmdlReg() override { EXPECT_EQ(registry.OpenKeys(), 0U) << "a key was left open"; }
+  BmdlReg() { process.Trace().Start(); }
+  ~BmdlReg() override { EXPECT_EQ(process.OpenKeys(), 0U) << "a key was left open"; }
 
   std::string Read(const std::string& name) {
     return ReadRegistryValue(registry, HKeyCurrentUser, Key, name);
@@ -54,12 +54,12 @@ class BmdlReg : public testing::Test {
     }
     return {};
   }
-  const std::vector<std::string>& Calls() const { return gate.trace.Lines(); }
+  const std::vector<std::string>& Calls() { return process.Trace().Lines(); }
 
-  platform::memory::Trace shared;
-  platform::memory::CallGate gate{shared};
-  platform::memory::RegistryTree tree;
-  platform::memory::RegistryView registry{tree, gate};
+  platform::memory::World world;
+  platform::memory::Process process{world};
+  platform::memory::RegistryTree& tree = world.registry;
+  platform::Registry& registry = process.Platform().registry;
 };
 
 struct DwordReading {
@@ -150,7 +150,7 @@ TEST_F(BmdlReg, AValueOfNoBytesIsAnInvalidArgumentWhateverItsType) {
     Store("a", type, "");
     EXPECT_EQ(ReadError("a"), ErrorNumber::InvalidProcedureCall) << type;
   }
-  EXPECT_EQ(gate.trace.Names().back(), "RegCloseKey");
+  EXPECT_EQ(process.Trace().Names().back(), "RegCloseKey");
 }
 
 TEST_F(BmdlReg, ANumberOfOddLengthReadsByItsBytesOrFailsWithoutHarm) {
@@ -200,21 +200,22 @@ TEST_F(BmdlReg, WriteConvertsBetweenTextAndNumber) {
   Write("a", "42", platform::RegDword);
   EXPECT_EQ(Stored("a"), "4:" + Bytes({42, 0, 0, 0}));
   EXPECT_THROW(Write("a", "Alert", platform::RegDword), RuntimeError);
-  EXPECT_EQ(gate.trace.Names().back(), "RegCloseKey");
+  EXPECT_EQ(process.Trace().Names().back(), "RegCloseKey");
 }
 
 TEST_F(BmdlReg, WriteOfAnyOtherTypeStoresNothing) {
   tree.MakeKey(HKeyCurrentUser, Key);
   Write("a", "Alert", platform::RegBinary);
   EXPECT_EQ(Stored("a"), "absent");
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegOpenKeyExA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(), ElementsAre("RegOpenKeyExA", "RegCloseKey"));
   EXPECT_EQ(SetRegistryValueEx(registry, HKeyCurrentUser, "a", platform::RegBinary, "x"), 0);
 }
 
 TEST_F(BmdlReg, WriteToAMissingKeyGoesOnSilentlyAndCreatesNothing) {
   Write("a", 1, platform::RegDword);
   EXPECT_FALSE(tree.HasKey(HKeyCurrentUser, Key));
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegOpenKeyExA", "RegSetValueExA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(),
+              ElementsAre("RegOpenKeyExA", "RegSetValueExA", "RegCloseKey"));
 }
 
 TEST_F(BmdlReg, SetRegistryValueExGivesTheStatusOfTheWrite) {
@@ -226,14 +227,14 @@ TEST_F(BmdlReg, SetRegistryValueExGivesTheStatusOfTheWrite) {
 TEST_F(BmdlReg, UpdateOfAMissingKeyIsFalseAndCreatesNothing) {
   EXPECT_FALSE(Update("a", "Alert"));
   EXPECT_FALSE(tree.HasKey(HKeyCurrentUser, Key));
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegOpenKeyExA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(), ElementsAre("RegOpenKeyExA", "RegCloseKey"));
 }
 
 TEST_F(BmdlReg, UpdateOfAMissingValueMakesATextEvenOfANumber) {
   tree.MakeKey(HKeyCurrentUser, Key);
   EXPECT_TRUE(Update("a", "12"));
   EXPECT_EQ(Stored("a"), "1:12");
-  EXPECT_THAT(gate.trace.Names(),
+  EXPECT_THAT(process.Trace().Names(),
               ElementsAre("RegOpenKeyExA", "RegQueryValueExA", "RegSetValueExA", "RegCloseKey"));
 }
 
@@ -271,7 +272,7 @@ TEST_F(BmdlReg, UpdateDividesANegativeNumberWithTruncation) {
 TEST_F(BmdlReg, UpdateOfANumberBeyond32BitsOverflowsAndClosesTheKey) {
   tree.SetDword(HKeyCurrentUser, Key, "a", 7);
   EXPECT_THROW(Update("a", "4000000000"), RuntimeError);
-  EXPECT_EQ(gate.trace.Names().back(), "RegCloseKey");
+  EXPECT_EQ(process.Trace().Names().back(), "RegCloseKey");
 }
 
 TEST_F(BmdlReg, UpdateOfAnotherTypeWritesTheWholeBufferBack) {
@@ -283,14 +284,15 @@ TEST_F(BmdlReg, UpdateOfAnotherTypeWritesTheWholeBufferBack) {
 TEST_F(BmdlReg, UpdateOfAValueOver1024BytesIsFalse) {
   Store("a", platform::RegSz, std::string(1025, 'x'));
   EXPECT_FALSE(Update("a", "Alert"));
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegOpenKeyExA", "RegQueryValueExA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(),
+              ElementsAre("RegOpenKeyExA", "RegQueryValueExA", "RegCloseKey"));
 }
 
 TEST_F(BmdlReg, UpdateThatIsRefusedIsFalse) {
   tree.MakeKey(HKeyCurrentUser, Key);
-  gate.faults.FailCall("RegSetValueExA", 1, platform::ErrorAccessDenied);
+  process.Faults().FailCall("RegSetValueExA", 1, platform::ErrorAccessDenied);
   EXPECT_FALSE(Update("a", "Alert"));
-  EXPECT_EQ(gate.trace.Names().back(), "RegCloseKey");
+  EXPECT_EQ(process.Trace().Names().back(), "RegCloseKey");
 }
 
 TEST_F(BmdlReg, CreatesAKeyWithItsParentsAndClosesIt) {
@@ -305,7 +307,7 @@ TEST_F(BmdlReg, ACreationThatIsRefusedIsSilent) {
   tree.Refuse(HKeyCurrentUser, "", Refusal::Write);
   CreateRegistryKey(registry, HKeyCurrentUser, Key);
   EXPECT_FALSE(tree.HasKey(HKeyCurrentUser, Key));
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegCreateKeyExA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(), ElementsAre("RegCreateKeyExA", "RegCloseKey"));
 }
 
 TEST_F(BmdlReg, DeletesOnlyAKeyWithoutSubkeys) {
@@ -314,7 +316,7 @@ TEST_F(BmdlReg, DeletesOnlyAKeyWithoutSubkeys) {
   EXPECT_TRUE(tree.HasKey(HKeyCurrentUser, Key));
   DeleteRegistryKey(registry, HKeyCurrentUser, Key);
   EXPECT_FALSE(tree.HasKey(HKeyCurrentUser, Key));
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegDeleteKeyA", "RegDeleteKeyA"));
+  EXPECT_THAT(process.Trace().Names(), ElementsAre("RegDeleteKeyA", "RegDeleteKeyA"));
 }
 
 TEST_F(BmdlReg, DeletesAValueAndIgnoresAMissingOne) {
@@ -324,9 +326,10 @@ TEST_F(BmdlReg, DeletesAValueAndIgnoresAMissingOne) {
   DeleteRegistryValue(registry, HKeyCurrentUser, Key, "Popup");
   DeleteRegistryValue(registry, HKeyCurrentUser, "No\\Such\\Key", "Popup");
   EXPECT_EQ(Calls()[0], "RegOpenKeyExA HKCU\\Software\\Qorvel Softwares\\Block Log 0xF003F -> 0");
-  EXPECT_THAT(gate.trace.Names(), ElementsAre("RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey",
-                                              "RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey",
-                                              "RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey"));
+  EXPECT_THAT(process.Trace().Names(),
+              ElementsAre("RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey", "RegOpenKeyExA",
+                          "RegDeleteValueA", "RegCloseKey", "RegOpenKeyExA", "RegDeleteValueA",
+                          "RegCloseKey"));
 }
 
 }  // namespace

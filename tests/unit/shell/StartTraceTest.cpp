@@ -107,6 +107,8 @@ void ExpectGolden(const std::string& name, const std::string& told) {
 
 class StartTrace : public test::ShellTest {
  protected:
+  StartTrace() { world.trace.Start(); }
+
   // A copy whose calls and windows are listened to. Hover colours are no window's concern before
   // the mouse comes, so the links tell them.
   std::unique_ptr<Copy> Listened(const std::string& commandLine = "") {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/memory/CallGate.h"
 #include "platform/memory/Calls.h"
 #include "platform/memory/Process.h"
 
@@ -26,6 +27,8 @@ class MemoryCalls : public testing::Test {
 };
 
 TEST_F(MemoryCalls, TraceTellsCallsArgumentsAndResults) {
+  world_.trace.Start();
+  process_.Trace().Start();
   world_.registry.SetString(HKeyCurrentUser, "Software\\Qorvel", "Version", "2");
   KeyHandle key = 0;
   std::uint32_t type = 0;
@@ -48,11 +51,57 @@ TEST_F(MemoryCalls, TraceTellsCallsArgumentsAndResults) {
 
 TEST_F(MemoryCalls, WorldTracesAllProcessesAndEachItsOwn) {
   Process other(world_);
+  for (Trace* trace : {&world_.trace, &other.Trace(), &process_.Trace()}) trace->Start();
   other.Platform().desktop.InitCommonControls();
   platform_.desktop.GetParent(0);
   EXPECT_THAT(world_.trace.Names(), ElementsAre("InitCommonControls", "GetParent"));
   EXPECT_THAT(other.Trace().Lines(), ElementsAre("InitCommonControls"));
   EXPECT_THAT(process_.Trace().Lines(), ElementsAre("GetParent 0x0 -> 0"));
+}
+
+TEST_F(MemoryCalls, TraceRecordsFromItsStartToItsStop) {
+  Open();
+  process_.Trace().Start();
+  platform_.desktop.InitCommonControls();
+  process_.Trace().Stop();
+  Open();
+  process_.Trace().Start();
+  EXPECT_THAT(process_.Trace().Names(), ElementsAre("InitCommonControls"));
+}
+
+// An argument whose text is asked for.
+struct Counted {
+  int& asked;
+  std::string Text() const {
+    ++asked;
+    return "counted";
+  }
+};
+
+TEST_F(MemoryCalls, NoTextIsMadeForATraceThatDoesNotRecord) {
+  CallGate gate(world_.trace);
+  int asked = 0;
+  const auto call = [&] {
+    gate.Void(
+        "EnumWindows", [] {}, Counted{asked});
+    gate.Code(
+        "RegCloseKey", [] { return 0; }, Counted{asked});
+  };
+  call();
+  EXPECT_EQ(asked, 0);
+  EXPECT_EQ(gate.faults.Calls(), 2U);
+  gate.trace.Start();
+  call();
+  EXPECT_EQ(asked, 2);
+  EXPECT_THAT(gate.trace.Lines(), ElementsAre("EnumWindows counted", "RegCloseKey counted -> 0"));
+}
+
+TEST_F(MemoryCalls, ReadingATraceThatWasNotStartedIsAMisuse) {
+  EXPECT_DEATH(process_.Trace().Lines(), "a trace is read that was not started");
+}
+
+TEST_F(MemoryCalls, ANameThatNoCallHasIsAMisuse) {
+  EXPECT_DEATH(process_.Faults().FailEvery("RegFlushKey", 5), "no call is named RegFlushKey");
 }
 
 TEST_F(MemoryCalls, NthCallFailsWithItsCode) {

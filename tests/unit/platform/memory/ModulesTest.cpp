@@ -69,6 +69,7 @@ TEST_F(MemoryModules, ExitThreadTakesTheWindowsAndLeavesTheStack) {
   process_.EndThread = [] { throw ThreadIsGone{}; };
   world_.desktop.MakeWindow(process_.Id(), 0, "main");
   world_.clock.SetTimer(process_.Id(), 10, [] { FAIL(); });
+  process_.Trace().Start();
   EXPECT_THROW(modules_.ExitThread(9), ThreadIsGone);
   EXPECT_EQ(process_.ThreadExitCode(), 9U);
   EXPECT_FALSE(process_.Alive());

@@ -84,6 +84,7 @@ TEST_F(MemoryRegistry, HandleOutlivesItsKeyAndTheKeyAboveIt) {
   KeyHandle key = 0;
   view_.RegCreateKeyExA(HKeyLocalMachine, "One\\Two", KeyAllAccess, false, key);
   tree_.RemoveKey(HKeyLocalMachine, "One");
+  world_.trace.Start();
   EXPECT_EQ(view_.RegSetValueExA(key, "a", RegSz, "1"), ErrorKeyDeleted);
   EXPECT_EQ(view_.RegCloseKey(key), 0);
   EXPECT_EQ(world_.trace.Lines().back(), "RegCloseKey HKLM\\One\\Two (deleted) -> 0");

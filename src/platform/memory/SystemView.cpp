@@ -1,0 +1,31 @@
+#include "platform/memory/SystemView.h"
+
+#include <algorithm>
+
+#include "platform/memory/Fold.h"
+
+namespace vantrel::platform::memory {
+
+// The sizes of the record's short and long form; any other is refused.
+std::int32_t SystemView::GetVersionExA(VersionRecord& record) {
+  if (record.size != 148 && record.size != 156) return 0;
+  const std::uint32_t size = record.size;
+  record = world_.version;
+  record.size = size;
+  return 1;
+}
+
+bool SystemView::PreviousInstanceRuns() {
+  if (!previous_) previous_ = Claim();
+  return *previous_;
+}
+
+bool SystemView::Claim() {
+  const std::string name = Fold(self_.name);
+  world_.claims.insert({name, self_.id});
+  return std::any_of(world_.claims.begin(), world_.claims.end(), [&](const auto& claim) {
+    return claim.first == name && claim.second != self_.id;
+  });
+}
+
+}  // namespace vantrel::platform::memory
