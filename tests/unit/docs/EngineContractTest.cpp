@@ -15,6 +15,12 @@
 #include "settings/RegistryConversions.h"
 #include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameMain.h"
+#include "windows/FrmFrameNotification.h"
+#include "windows/FrmFrameSettings.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::test {
 namespace {
@@ -395,6 +401,28 @@ TEST_F(EngineContract, EachOfTheseCostsTheUsersSettings) {
   Start();
   EXPECT_EQ(Number(BlockSettings, "ShowPH"), 1U);
   EXPECT_EQ(copy->Windows().FrmFrameSettings->chkGHideSystray.Value(), forms::Checked);
+}
+
+TEST_F(EngineContract, ASoundOfNoNameIsStoredWithoutAByte) {
+  { StartCopy(); }
+  SetNumber(BlockSettings, "Banner", 0);
+  world.registry.SetString(HKeyCurrentUser, BlockSettings, "NSounds", "fanfare");
+  Start();
+  EXPECT_EQ(Text(BlockSettings, "NSounds"), "");
+  EXPECT_EQ(Number(BlockSettings, "Banner"), 0U);
+}
+
+// A value without a byte where the start looks whether a key is filled.
+TEST_F(EngineContract, AMarkerWithoutAByteEndsTheStart) {
+  for (const auto& [key, name] : {std::pair{BlockSettings, "BpID"}, std::pair{BlockLog, "Popup"}}) {
+    world.registry.RemoveKey(HKeyCurrentUser, RootKey);
+    { StartCopy(); }
+    world.registry.Set(HKeyCurrentUser, key, name, platform::RegDword, "");
+    Start();
+    EXPECT_THAT(BoxTexts(*copy), testing::Contains(HasSubstr("Run-time error '5'"))) << key;
+    EXPECT_FALSE(copy->toolkit.Ending());
+    copy = nullptr;
+  }
 }
 
 TEST_F(EngineContract, AStartWithTheToggleCostsTheUsersSettingsToo) {

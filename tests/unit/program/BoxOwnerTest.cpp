@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "support/ComponentFixture.h"
+#include "windows/FrmAbout.h"
+#include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::program {
 namespace {

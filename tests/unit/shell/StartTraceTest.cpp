@@ -14,6 +14,7 @@
 #include "blocking/BlockingState.h"
 #include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameHistory.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameSettings.h"
 #include "windows/frmMain.h"

@@ -259,6 +259,16 @@ TEST_F(Lifetime, TheCloseBoxEndsTheProcess) {
   EXPECT_EQ(world.desktop.windowLongCalls[0].value, 0);
 }
 
+// Without its own handler the main window unloads and the program does not end there.
+TEST_F(Lifetime, TheCloseBoxEndsTheProcessAlsoIfTheUnloadComesBack) {
+  Main().Unloading = nullptr;
+  ASSERT_TRUE(copy->user.Close(Main()));
+  EXPECT_TRUE(copy->toolkit.Ending());
+  EXPECT_THAT(copy->toolkit.LoadedForms(), IsEmpty());
+  EXPECT_THAT(world.tray.Icons(), IsEmpty());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
+}
+
 TEST_F(Lifetime, TheCloseBoxHidesToTheTrayIfToldSo) {
   Windows().FrmFrameSettings->chkGHideSystray.SetValue(1);
   Main().LnkGraph.Click();
