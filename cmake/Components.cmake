@@ -78,7 +78,7 @@ function(vantrel_unit_tests folder)
 endfunction()
 
 # vantrel_test_program(<name> SOURCES file... LINKS target...): a GoogleTest program with the
-# watchdog of tests/support, registered with CTest under its own name.
+# watchdog and the rows of tests/support, registered with CTest under its own name.
 function(vantrel_test_program name)
   cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${PROGRAM_SOURCES})

@@ -6,6 +6,8 @@
 #   PrepareWine [user]         makes the prefix when it is new, then keeps its server alive
 #   Wine PROGRAM [ARG...]      runs a Windows program in the prefix
 #   StopWine, StopDisplay      end what the two above have started
+#   StartSession ARCH NAME     all of this, in a copy of the prefix build/wine/ARCH for this session
+#   EndSession                 ends it, and fails if a program was still running
 #
 # shellcheck shell=bash
 
@@ -67,6 +69,18 @@ Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
 
 WineServer() { "${wineLauncher[@]}" /usr/bin/wineserver "$@"; }
 
+# MakePrefix: makes the prefix when it is new; no server is left running in it.
+MakePrefix() {
+  [[ ! -e $WINEPREFIX/vantrel-ready ]] || return 0
+  mkdir -p "$WINEPREFIX" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
+  Wine wineboot -i || return 1
+  WineServer -w
+  # Debian's Wine does not look into its own font folder by itself: without these fonts captions
+  # come out bold and wide, and caption buttons as letters.
+  ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
+  touch "$WINEPREFIX/vantrel-ready"
+}
+
 # PrepareWine [user]: on Wine's own desktop window, because without a window manager keys reach
 # programs and captions are drawn only inside one; or on the user's desktop, with its tray.
 PrepareWine() {
@@ -75,14 +89,7 @@ PrepareWine() {
   # Everything that stays in the background gets no pipe of the caller's: whoever reads that
   # pipe to its end would wait for ever.
   {
-    if [[ ! -e $WINEPREFIX/vantrel-ready ]]; then
-      Wine wineboot -i || return 1
-      WineServer -w
-      # Debian's Wine does not look into its own font folder by itself: without these fonts
-      # captions come out bold and wide, and caption buttons as letters.
-      ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
-      touch "$WINEPREFIX/vantrel-ready"
-    fi
+    MakePrefix || return 1
     WineServer -p || true
     if [[ ${1:-} == user ]]; then
       Wine reg delete "$explorer" /v Desktop /f || true
@@ -99,4 +106,85 @@ StopWine() {
   [[ -d ${WINEPREFIX:-/nowhere} ]] || return 0
   WineServer -k >/dev/null 2>&1 || true
   timeout 10 "${wineLauncher[@]}" /usr/bin/wineserver -w >/dev/null 2>&1 || true
+}
+
+# CopyPrefix FROM TO: a prefix with the same content. What nobody writes to is linked; the registry
+# says that programs run on Wine's own desktop window (see PrepareWine).
+CopyPrefix() {
+  local file
+  cp -al "$1" "$2" || return 1
+  rm -rf "$2/wineserver"
+  for file in "$2"/*.reg; do
+    cp "$file" "$file.own" && mv "$file.own" "$file" || return 1
+  done
+  cat >>"$2/user.reg" <<'END'
+
+[Software\\Wine\\Explorer]
+"Desktop"="Default"
+
+[Software\\Wine\\Explorer\\Desktops]
+"Default"="1280x1024"
+END
+}
+
+# StartSession ARCH NAME: a display and a Wine of the session's own, so that nothing that ran before
+# can slow it down or get into its way, and sessions may run side by side.
+StartSession() {
+  local arch=$1 origin=$vantrelTop/build/wine/$1 copy=$vantrelTop/build/wine/$1-$2
+  mkdir -p "${origin%/*}"
+  UseWine "$arch" "$copy"
+  StartDisplay || return 1
+  # The lock stays with this shell: Wine's processes would hold it on.
+  (UseWine "$arch" "$origin" && flock 9 && MakePrefix 9>&-) 9>"$origin.lock" >"$origin.log" 2>&1 \
+    </dev/null || { cat "$origin.log" >&2; return 1; }
+  # What a session of this name has left that was killed.
+  KillPrograms
+  rm -rf "$copy" "$copy.data"
+  CopyPrefix "$origin" "$copy" || return 1
+  mkdir -p "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
+  {
+    WineServer -p || true
+    Wine explorer /desktop=Default,1280x1024 &
+    Wine cmd /c exit
+  } >"$copy.data/session.log" 2>&1 </dev/null || { cat "$copy.data/session.log" >&2; return 1; }
+}
+
+# Processes: the processes of the session, "PID FILE" a line; Wine starts each with the name of its
+# executable file first.
+Processes() {
+  local environment process command
+  while read -r environment; do
+    process=${environment//[^0-9]/}
+    command=$( (tr '\0' ' ' <"/proc/$process/cmdline") 2>/dev/null) || continue
+    [[ ${command,,} =~ ([^\\/\ ]+\.exe) ]] || continue
+    echo "$process ${BASH_REMATCH[1]}"
+  done < <(grep -lzsxF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ)
+}
+
+# Programs: those that are not Wine's own.
+Programs() {
+  Processes | grep -vE ' (services|plugplay|winedevice|svchost|rpcss|explorer|start|conhost)\.exe$' ||
+    true
+}
+
+KillPrograms() {
+  local process
+  while read -r process _; do
+    kill -KILL "$process" 2>/dev/null || true
+  done < <(Processes)
+}
+
+EndSession() {
+  local left="" tries
+  # A program that was asked to end may need a moment.
+  for ((tries = 0; tries < 100; tries++)); do
+    left=$(Programs)
+    [[ -n $left ]] || break
+    sleep 0.1
+  done
+  StopWine
+  KillPrograms
+  StopDisplay
+  rm -rf "$WINEPREFIX" "$WINEPREFIX.data"
+  [[ -z $left ]] || { echo "left running: ${left//$'\n'/, }" >&2; return 1; }
 }

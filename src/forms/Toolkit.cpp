@@ -8,7 +8,7 @@
 
 namespace vantrel::forms {
 
-Toolkit::~Toolkit() { EndOfBorder(); }
+Toolkit::~Toolkit() { discarded_.clear(); }
 
 void Toolkit::DoEvents() {
   {

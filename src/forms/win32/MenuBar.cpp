@@ -28,8 +28,11 @@ void MenuBar::Opens(HMENU opened) {
 }
 
 void MenuBar::Fill(HMENU into, const Menu& menu) {
+  // Where all between two lines is hidden, one line is enough.
+  bool lineAbove = true;
   for (const Menu* entry : menu.Entries()) {
-    if (!entry->Visible()) continue;
+    if (!entry->Visible() || (entry->IsSeparator() && lineAbove)) continue;
+    lineAbove = entry->IsSeparator();
     const auto identifier = static_cast<UINT_PTR>(entry->Identifier());
     if (entry->IsSeparator()) {
       AppendMenuA(into, MF_SEPARATOR, identifier, nullptr);
