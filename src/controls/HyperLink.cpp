@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "text/ErrorTrap.h"
 #include "text/Numbers.h"
+#include "text/ScopedFlag.h"
 #include "text/Strings.h"
 
 namespace vantrel::controls {
@@ -271,7 +272,7 @@ void HyperLink::MouseLeave() {
   if (moUnderline_ && !ContainerFont().Underline) trap([&] { ShowUnderline(false); });
   // Meant: the same pointer as on entering.
   if (moPointer_) trap([&] { lblHyperlink.SetMousePointer(forms::PointerCustom); });
-  trap([&] { MouseOut(); });
+  RaiseAtBorder(MouseOut);
 }
 
 void HyperLink::SyncSize() {
@@ -361,8 +362,11 @@ void HyperLink::LabelMoved(int button, int shift, float x, float y) {
 
 void HyperLink::LabelClicked() {
   if (!address_.empty()) OpenAddress();
-  // The handler's own border: what it does not trap is shown, and is no error of the link.
-  Owner().Tools().AtBorder([this] { Click(); });
+  RaiseAtBorder(Click);
+}
+
+void HyperLink::RaiseAtBorder(const forms::Event<>& event) {
+  Owner().Tools().AtBorder([&event] { event(); });
   Owner().Tools().ThrowIfEnding();
 }
 
@@ -383,10 +387,13 @@ void HyperLink::LabelChanged() {
   Change();
 }
 
+// The timer is stopped last, so it goes on while a handler of MouseOut shows a box: those ticks
+// must not raise the event again. If the mouse has come back meanwhile, the timer is still needed.
 void HyperLink::TimerTicked() {
-  if (IsMouseOver()) return;
+  if (leaving_ || IsMouseOver()) return;
+  const text::ScopedFlag leaving(leaving_);
   MouseLeave();
-  myTimer.SetEnabled(false);
+  if (!isOver_) myTimer.SetEnabled(false);
 }
 
 }  // namespace vantrel::controls

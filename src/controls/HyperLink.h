@@ -85,6 +85,8 @@ class HyperLink : public forms::UserControl {
   // Whether the window under the mouse is this control's own: one that lies on top of it counts as
   // outside.
   bool IsMouseOver() const;
+  // Shows the link at rest, then raises MouseOut. Each step is taken whatever became of the one
+  // before; an error of the handler ends at the handler's border, as one of Click's does.
   void MouseLeave();
   // Gives the control the label's size, or without AutoSize the label the control's.
   void SyncSize();
@@ -124,6 +126,8 @@ class HyperLink : public forms::UserControl {
 
   void LabelMoved(int button, int shift, float x, float y);
   void LabelClicked();
+  // What a handler does not trap is shown and ends there; the link goes on. Throws EndProgram.
+  void RaiseAtBorder(const forms::Event<>& event);
   void LabelChanged();
   void TimerTicked();
   void OpenAddress();
@@ -139,6 +143,7 @@ class HyperLink : public forms::UserControl {
   bool moUnderline_ = true;
   bool moPointer_ = true;
   bool isOver_ = false;
+  bool leaving_ = false;  // by the timer
 };
 
 }  // namespace vantrel::controls

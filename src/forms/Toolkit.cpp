@@ -8,7 +8,7 @@
 
 namespace vantrel::forms {
 
-Toolkit::~Toolkit() { discarded_.clear(); }
+Toolkit::~Toolkit() { EndOfBorder(); }
 
 void Toolkit::DoEvents() {
   {

@@ -21,8 +21,10 @@ inline constexpr std::int32_t ErrorSharingViolation = 32;
 inline constexpr std::int32_t ErrorInvalidParameter = 87;
 inline constexpr std::int32_t ErrorDiskFull = 112;
 inline constexpr std::int32_t ErrorInvalidName = 123;
+inline constexpr std::int32_t ErrorDirectoryNotEmpty = 145;
 inline constexpr std::int32_t ErrorMoreData = 234;
 inline constexpr std::int32_t ErrorNoMoreItems = 259;
+inline constexpr std::int32_t ErrorDirectory = 267;  // a file in a folder's place
 inline constexpr std::int32_t ErrorElevationRequired = 740;
 inline constexpr std::int32_t ErrorKeyDeleted = 1018;
 

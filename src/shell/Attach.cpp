@@ -11,6 +11,7 @@
 #include "shell/Startup.h"
 #include "shell/Tray.h"
 #include "statistics/Attach.h"
+#include "toolbar/Attach.h"
 #include "windows/FrmAbout.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/frmMain.h"
@@ -35,6 +36,7 @@ void AttachProgram(Program& program) {
   blocking::AttachBlocking(program);
   statistics::AttachStatistics(program);
   allowlist::AttachAllowList(program);
+  toolbar::AttachToolbar(program);
   cleaning::AttachCleaning(program);
   iemaintenance::AttachIEMaintenance(program);
   program.windows.frmMain.OnMade(

@@ -82,6 +82,7 @@ constexpr bool EachFindableOnce() {
   return true;
 }
 static_assert(EachFindableOnce(), "a command has one row, in lower case behind a slash");
+static_assert(Findable("/az") && !Findable("/A") && !Findable("/Z") && !Findable("az"));
 
 const Command* FindCommand(const std::string& command) {
   const std::string wanted = text::LowerCase(command);

@@ -2,6 +2,8 @@
 #ifndef VANTREL_WINDOWS_FRMCUSTOM_H_
 #define VANTREL_WINDOWS_FRMCUSTOM_H_
 
+#include <string>
+
 #include "forms/Bars.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
@@ -14,6 +16,11 @@ namespace vantrel::windows {
 class frmcustom : public forms::Form {
  public:
   explicit frmcustom(forms::Toolkit& toolkit);
+
+  // The name of the list in which a row was clicked last; empty until then.
+  std::string ActiveList;
+  // The stored name, as it was read; the box of the name gets a constant.
+  std::string ToolbarName;
 
   forms::Menu mnufile{*this, "mnufile", "File", false};
   forms::Menu mnuabout{*this, "mnuabout", "About", false};

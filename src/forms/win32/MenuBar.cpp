@@ -28,11 +28,8 @@ void MenuBar::Opens(HMENU opened) {
 }
 
 void MenuBar::Fill(HMENU into, const Menu& menu) {
-  // Where all between two lines is hidden, one line is enough.
-  bool lineAbove = true;
   for (const Menu* entry : menu.Entries()) {
-    if (!entry->Visible() || (entry->IsSeparator() && lineAbove)) continue;
-    lineAbove = entry->IsSeparator();
+    if (!entry->Visible()) continue;
     const auto identifier = static_cast<UINT_PTR>(entry->Identifier());
     if (entry->IsSeparator()) {
       AppendMenuA(into, MF_SEPARATOR, identifier, nullptr);

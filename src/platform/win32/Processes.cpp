@@ -25,6 +25,8 @@ std::int32_t StartThroughShell(const std::string& application, const std::string
   const CommandLineParts parts = PartsOf(application, commandLine);
   SHELLEXECUTEINFOA start{};
   start.cbSize = sizeof start;
+  // A failure is the caller's to show: the shell would put a box of its own beside it.
+  start.fMask = SEE_MASK_FLAG_NO_UI;
   start.lpFile = application.empty() ? parts.program.c_str() : application.c_str();
   start.lpParameters = parts.tail.c_str();
   start.nShow = showCommand;

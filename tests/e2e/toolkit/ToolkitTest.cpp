@@ -45,6 +45,12 @@ struct Everything : Form {
 
   Menu File{*this, "File", "&File"};
   Menu Leave{File, "Leave", "&Leave"};
+  Menu Tray{*this, "Tray", "Tray", false};
+  Menu Above{Tray, "Above", "Above"};
+  Menu LineAbove{Tray, "LineAbove", "-"};
+  Menu Between{Tray, "Between", "Between", false};
+  Menu LineBelow{Tray, "LineBelow", "-"};
+  Menu Below{Tray, "Below", "Below"};
   ImageList Icons{*this, "Icons", {"one", "two"}};
   Toolbar Tools{*this, "Tools", {.At = {0, 0, 9000, 500}}, Icons, {{"First", 1}, {}, {"Last", 2}}};
   Label Before{*this, "Before", {.Caption = "&Name:", .At = {100, 700, 900, 250}}};
@@ -282,6 +288,36 @@ TEST_F(RealWindows, MenuCommandsReachTheirEntries) {
   form.Leave.Click = [&] { ++left; };
   SendMessageA(HandleOf(form), WM_COMMAND, static_cast<WPARAM>(form.Leave.Identifier()), 0);
   EXPECT_EQ(left, 1);
+}
+
+// The texts of a menu's entries in order, "-" for a line.
+std::vector<std::string> EntriesOf(HMENU menu) {
+  std::vector<std::string> entries;
+  for (UINT at = 0; at < static_cast<UINT>(GetMenuItemCount(menu)); ++at) {
+    char text[64] = "-";
+    GetMenuStringA(menu, at, text, sizeof text, MF_BYPOSITION);
+    const bool line = (GetMenuState(menu, at, MF_BYPOSITION) & MF_SEPARATOR) != 0;
+    entries.emplace_back(line ? "-" : text);
+  }
+  return entries;
+}
+
+// Also two lines with nothing visible between them.
+TEST_F(RealWindows, APopupShowsEveryVisibleEntryAndLine) {
+  constexpr UINT AskMenu = 0x01E1;  // MN_GETHMENU
+  std::vector<std::string> shown;
+  int ticks = 0;
+  form.Clock.Tick = [&] {
+    const HWND popup = FindWindowA("#32768", nullptr);
+    if (popup != nullptr && IsWindowVisible(popup) != FALSE) {
+      shown = EntriesOf(reinterpret_cast<HMENU>(SendMessageA(popup, AskMenu, 0, 0)));
+    }
+    if (!shown.empty() || ++ticks > 500) EndMenu();
+  };
+  form.Clock.SetEnabled(true);
+  form.PopupMenu(form.Tray);
+  form.Clock.SetEnabled(false);
+  EXPECT_EQ(shown, (std::vector<std::string>{"Above", "-", "-", "Below"}));
 }
 
 TEST_F(RealWindows, ToolButtonsAreToldByTheirNumber) {

@@ -29,9 +29,12 @@ std::string_view TakeLine(std::string_view& text) {
   return line;
 }
 
+// One more than there are commas; none of a line without a byte.
 std::vector<std::string_view> Fields(std::string_view line) {
   std::vector<std::string_view> fields;
-  while (!line.empty()) fields.push_back(TakeUntil(line, ','));
+  if (line.empty()) return fields;
+  const auto commas = std::count(line.begin(), line.end(), ',');
+  for (auto field = commas; field >= 0; --field) fields.push_back(TakeUntil(line, ','));
   return fields;
 }
 
@@ -69,8 +72,9 @@ std::vector<AllowedSite> ParseAllowList(std::string_view bytes) {
 }
 
 AllowedKinds AllowedOn(const std::vector<AllowedSite>& sites, std::string_view name) {
+  const std::string_view wanted = Trimmed(name);
   const auto found = std::find_if(sites.begin(), sites.end(), [&](const AllowedSite& site) {
-    return SameName(site.name, Trimmed(name));
+    return !site.name.empty() && SameName(site.name, wanted);
   });
   return found == sites.end() ? AllowedKinds{} : found->allowed;
 }

@@ -20,12 +20,13 @@ struct AllowedSite {
   AllowedKinds allowed{};
 };
 
-// The records of the file's bytes, in order. Reading ends at a blank line and at a line of fewer
-// than seven fields. A flag other than "0" and "1" allows nothing.
+// The records of the file's bytes, in order, whatever the bytes are: the list may be read while it
+// is written. Reading ends at a blank line and at a line of fewer than seven fields. A flag other
+// than "0" and "1" allows nothing.
 std::vector<AllowedSite> ParseAllowList(std::string_view bytes);
 
 // What the first record of that name allows, without regard to case and to blanks around it;
-// nothing is allowed on a site that is not in the list.
+// nothing is allowed on a site that is not in the list. A record without a name is of no site.
 AllowedKinds AllowedOn(const std::vector<AllowedSite>& sites, std::string_view name);
 
 }  // namespace vantrel::engine

@@ -39,8 +39,11 @@ void Engine::Step(std::uint64_t now) {
 std::uint32_t Engine::Pause() const { return entry_ ? WorkingPause : WaitingPause; }
 
 bool Engine::LookForEntry() {
-  const bool there = world_.KeyExists(Root::LocalMachine, EntryKey);
-  if (there) folder_ = world_.ReadText(Root::LocalMachine, EntryKey, PathValue).value_or("");
+  // A key without its folder is an entry that is being written or deleted.
+  const std::string folder = world_.ReadText(Root::LocalMachine, EntryKey, PathValue).value_or("");
+  const bool there = !folder.empty();
+  if (there && folder != folder_) MakeLog(folder);
+  if (there) folder_ = folder;
   if (there == entry_) return there;
   entry_ = there;
   toldTargets_ = "?";
@@ -113,11 +116,20 @@ bool Engine::Count(const Target& target) {
   const char* counter = Kinds[target.kind].counter;
   const std::uint32_t stored =
       world_.ReadNumber(Root::CurrentUser, CountersKey, counter).value_or(0);
-  if (stored < options_.limit && !world_.WriteNumber(CountersKey, counter, stored + 1)) {
-    return false;
+  if (stored == options_.limit) {
+    ++counted_[target.kind];
+    return true;
   }
+  // A counter past the limit is brought back to it.
+  const std::uint32_t next = std::min(stored, options_.limit - 1) + 1;
+  if (!world_.WriteNumber(CountersKey, counter, next)) return false;
   ++counted_[target.kind];
   return true;
+}
+
+// Whether lines are wanted or not: without the file the control panel resets nothing.
+void Engine::MakeLog(const std::string& folder) {
+  if (!world_.AppendToFile(folder, LogFile, "")) Tell("log.txt cannot be made");
 }
 
 void Engine::AppendLog(const std::string& lines) {

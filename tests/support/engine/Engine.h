@@ -52,6 +52,7 @@ class Engine {
   std::uint64_t TakeDue(std::uint64_t now, std::size_t targets);
   void CountDue(std::uint64_t due, const std::vector<Target>& targets);
   bool Count(const Target& target);
+  void MakeLog(const std::string& folder);
   void AppendLog(const std::string& lines);
   void TellTargets(const std::vector<Target>& targets);
   void Tell(const std::string& line) const;

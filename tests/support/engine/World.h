@@ -18,7 +18,6 @@ class World {
   World& operator=(const World&) = delete;
   virtual ~World() = default;
 
-  virtual bool KeyExists(Root root, const std::string& key) = 0;
   // A REG_SZ, without its terminator if one is stored; nothing if it is absent or of another type.
   virtual std::optional<std::string> ReadText(Root root, const std::string& key,
                                               const std::string& name) = 0;

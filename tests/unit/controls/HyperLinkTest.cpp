@@ -203,12 +203,81 @@ TEST_F(HyperLinks, WithoutAutoToolTipTheWindowsToolTipShows) {
   EXPECT_EQ(Label().ToolTipText(), "Given by the window");
 }
 
-TEST_F(HyperLinks, AnErrorInMouseOutIsIgnored) {
-  Make();
+TEST_F(HyperLinks, LeavingTakesItsStepsInTheirOrderAndStopsTheTimerLast) {
+  Make({{"forecolor", "&H00112233"}});
+  Enter();
+  Label().SetMousePointer(0);
+  GoAway();
+  Events steps;
+  toolkit_.Trace = [&](const std::string& line) {
+    steps.push_back(line + (Link().IsOver() ? " over" : ""));
+  };
+  Link().MouseOut = [&] {
+    steps.push_back(Link().myTimer.Enabled() ? "MouseOut, timer on" : "MouseOut, timer off");
+  };
+  Poll();
+  EXPECT_EQ(steps, (Events{"Form1.Link.lblHyperlink ForeColor=&H00112233 BackColor=&H00FEF8F4",
+                           "Form1.Link.lblHyperlink Underline=False",
+                           "Form1.Link.lblHyperlink MousePointer=99", "MouseOut, timer on",
+                           "Form1.Link.myTimer Enabled=False"}));
+}
+
+TEST_F(HyperLinks, WithoutItsFlagsLeavingChangesTheColourOnly) {
+  Make({{"mounderline", "0"}, {"mopointer", "0"}});
+  Link().SetFont({.Underline = true});
+  Enter();
+  GoAway();
+  Poll();
+  EXPECT_TRUE(Link().Font().Underline);
+  EXPECT_EQ(Label().MousePointer(), 0);
+  EXPECT_EQ(Link().ForeColor(), form_->Area.ForeColor());
+}
+
+// Whatever a handler does, its error is shown once and the link goes on.
+TEST_F(HyperLinks, AnErrorOfTheMouseOutHandlerEndsAtItsOwnBorderAndTheTimerStops) {
+  Make({{"forecolor", "&H00112233"}});
+  std::vector<text::ErrorNumber> shown;
+  toolkit_.OnUntrappedError = [&shown](const text::RuntimeError& error) {
+    shown.push_back(error.Number());
+  };
   Link().MouseOut = [] { throw text::RuntimeError(text::ErrorNumber::TypeMismatch); };
   Enter();
-  EXPECT_NO_THROW(Link().MouseLeave());
+  GoAway();
+  Poll();
+  EXPECT_EQ(shown, std::vector{text::ErrorNumber::TypeMismatch});
   EXPECT_FALSE(Link().IsOver());
+  EXPECT_EQ(Link().ForeColor(), 0x112233U);
+  EXPECT_FALSE(Link().myTimer.Enabled());
+}
+
+TEST_F(HyperLinks, TicksDuringTheMouseOutHandlerRaiseNoSecond) {
+  Make();
+  Link().MouseOut = [this] {
+    events_.push_back("MouseOut");
+    Link().myTimer.Tick();
+  };
+  Enter();
+  GoAway();
+  Poll();
+  EXPECT_EQ(events_, (Events{"MouseOver", "MouseOut"}));
+  EXPECT_FALSE(Link().myTimer.Enabled());
+}
+
+TEST_F(HyperLinks, TheTimerGoesOnIfTheMouseComesBackDuringTheMouseOutHandler) {
+  Make();
+  Link().MouseOut = [this] { Enter(); };
+  Enter();
+  GoAway();
+  Poll();
+  EXPECT_TRUE(Link().IsOver());
+  EXPECT_TRUE(Link().myTimer.Enabled());
+}
+
+TEST_F(HyperLinks, TheEndOfTheProgramPassesThroughMouseOut) {
+  Make();
+  Link().MouseOut = [this] { toolkit_.End(); };
+  Enter();
+  EXPECT_THROW(Link().MouseLeave(), forms::EndProgram);
 }
 
 TEST_F(HyperLinks, AClickOpensTheAddressUnderTheHourglassThenTells) {

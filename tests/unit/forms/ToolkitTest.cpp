@@ -118,11 +118,27 @@ TEST_F(Borders, EndInsideAModalWindowComesOutOfIt) {
 class Mortal : public BenchForm {
  public:
   Mortal(Toolkit& toolkit, Notes& notes) : BenchForm(toolkit, "mortal"), notes_(notes) {}
-  ~Mortal() override { notes_.push_back("destroyed"); }
+  ~Mortal() override {
+    notes_.push_back("destroyed");
+    Tools().Discard(std::move(Last));
+  }
+
+  std::unique_ptr<Form> Last;  // discarded on the way out
 
  private:
   Notes& notes_;
 };
+
+// One that discards another on its way out, which does the same.
+std::unique_ptr<Mortal> ThreeInARow(Toolkit& toolkit, Notes& notes) {
+  std::unique_ptr<Mortal> first;
+  for (int i = 0; i < 3; ++i) {
+    auto before = std::make_unique<Mortal>(toolkit, notes);
+    before->Last = std::move(first);
+    first = std::move(before);
+  }
+  return first;
+}
 
 TEST_F(Borders, ADiscardedWindowOutlivesTheEventsThatRun) {
   Notes notes;
@@ -154,6 +170,21 @@ TEST_F(Borders, AWindowDiscardedInAPumpOutlivesThePump) {
   EXPECT_THAT(notes, ElementsAre("end of the pump"));
   toolkit.AtBorder([] {});
   EXPECT_THAT(notes, ElementsAre("end of the pump", "destroyed"));
+}
+
+TEST_F(Borders, WindowsDiscardedByDiscardedOnesGoWithTheSameBorder) {
+  Notes notes;
+  toolkit.AtBorder([&] { toolkit.Discard(ThreeInARow(toolkit, notes)); });
+  EXPECT_THAT(notes, ElementsAre("destroyed", "destroyed", "destroyed"));
+}
+
+TEST(Toolkits, TakeWindowsDiscardedByDiscardedOnesWithThemToo) {
+  Notes notes;
+  {
+    NotingToolkit toolkit;
+    toolkit.Discard(ThreeInARow(toolkit, notes));
+  }
+  EXPECT_THAT(notes, ElementsAre("destroyed", "destroyed", "destroyed"));
 }
 
 TEST(Toolkits, TakeTheirDiscardedWindowsWithThem) {

@@ -3,6 +3,7 @@
 // by the gate or goes on with a window that works. What is prescribed for a failure holds.
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <utility>
 
 #include "unit/shell/Machine.h"
@@ -10,6 +11,7 @@
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameSettings.h"
 #include "windows/frmMain.h"
+#include "windows/frmcustom.h"
 
 namespace vantrel::shell {
 namespace {
@@ -155,6 +157,63 @@ TEST(FaultSweep, AStartThatHandsOver) {
     EXPECT_TRUE(running->Windows().FrmFrameHistory->Shown());
     EXPECT_THAT(Machine::BoxTexts(*running), IsEmpty());
   }
+}
+
+constexpr const char* ToolbarSettings = "Software\\Qorvel Softwares\\Toolbar Settings";
+constexpr const char* EndOfLoad = "Some error occured while processing.";
+
+void OpenToolbarDialog(Machine& machine) {
+  EXPECT_TRUE(machine.copy->user.Select(machine.copy->Windows().frmMain->submnuIEToolbar));
+}
+std::optional<std::string> StoredLayout(const Machine& machine) {
+  return machine.world.registry.GetString(platform::HKeyCurrentUser, ToolbarSettings,
+                                          "Toolbar Settings");
+}
+
+// The dialog's buttons work, and the next save stores the whole catalogue.
+void ExpectToolbarDialogUsable(Machine& machine) {
+  auto& dialog = *machine.copy->Windows().frmcustom;
+  EXPECT_TRUE(dialog.Visible());
+  EXPECT_TRUE(machine.copy->user.Click(dialog.cmdReset));
+  EXPECT_TRUE(machine.copy->user.Click(dialog.Command1));
+  EXPECT_EQ(StoredLayout(machine), "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19");
+  machine.ExpectUsable();
+}
+
+TEST(FaultSweep, OpenOfTheToolbarDialog) {
+  Sweep([](Machine& machine) { machine.MakeStarted(); }, OpenToolbarDialog,
+        [](Machine& machine) {
+          // A list that cannot be read is an empty one; the name is needed by nobody.
+          if (machine.FailedRead("Toolbar Settings \"Toolbar Settings\"") ||
+              (machine.FailedIs("RegOpenKeyExA") && machine.copy->process.Boxes().size() > 0)) {
+            EXPECT_THAT(machine.BoxTexts(*machine.copy), ElementsAre("", EndOfLoad));
+          } else {
+            EXPECT_THAT(machine.BoxTexts(*machine.copy), IsEmpty());
+            EXPECT_EQ(machine.copy->Windows().frmcustom->lstvCurrent.Count(), 19);
+          }
+          ExpectToolbarDialogUsable(machine);
+        },
+        5);
+}
+
+TEST(FaultSweep, SaveOfTheToolbar) {
+  const auto save = [](Machine& machine) {
+    EXPECT_TRUE(machine.copy->user.Click(machine.copy->Windows().frmcustom->cmdDone));
+  };
+  Sweep(
+      [](Machine& machine) {
+        machine.MakeStarted();
+        OpenToolbarDialog(machine);
+        EXPECT_TRUE(machine.copy->user.Click(machine.copy->Windows().frmcustom->cmdRemove));
+      },
+      save,
+      [](Machine& machine) {
+        // What cannot be written is lost in silence.
+        EXPECT_THAT(machine.BoxTexts(*machine.copy), IsEmpty());
+        EXPECT_FALSE(machine.copy->Windows().frmcustom->cmdDone.Enabled());
+        ExpectToolbarDialogUsable(machine);
+      },
+      7);
 }
 
 void ExpectGone(Machine& machine) {

@@ -102,6 +102,12 @@ TEST_F(Navigation, TheHelpLinkFromTheWelcomePanelLeavesThatAboveTheHelpFrame) {
                                      "Files\\Vantrel\\help\\welcome.htm\""));
 }
 
+TEST_F(Navigation, TheHelpLinkHidesTheUpperPanels) {
+  Main().LnkGraph.Click();
+  Main().LnkHelp.Click();
+  EXPECT_THAT(ShownPanels(*copy), ElementsAre("FrmFrameMain"));
+}
+
 TEST_F(Navigation, AnyPanelHidesTheHelpFrame) {
   Main().LnkHelp.Click();
   Main().LnkGraph.Click();

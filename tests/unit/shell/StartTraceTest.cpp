@@ -14,6 +14,7 @@
 #include "blocking/BlockingState.h"
 #include "shell/Navigation.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmFrameHistory.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameSettings.h"
 #include "windows/frmMain.h"
@@ -230,8 +231,9 @@ TEST_F(StartTrace, ACloseToTheTray) {
   ExpectGolden("close-to-tray", Tell([&] { copy->user.Close(*copy->Windows().frmMain); }));
 }
 
-// Each from a window where everything shows, so that what is hidden can be seen, and once more, so
-// that what is shown can be seen.
+// Each from a window where everything shows, so that what is hidden can be seen, and once more from
+// one with the Help frame alone, so that what is shown can be seen. The yield stands where waiting
+// events are let through.
 TEST_F(StartTrace, TheCaseOperations) {
   const std::pair<const char*, void (*)(program::Program&)> operations[] = {
       {"CaseWelcome", CaseWelcome},
@@ -250,14 +252,21 @@ TEST_F(StartTrace, TheCaseOperations) {
   Start(copy->program);
   std::string told;
   for (const auto& row : operations) {
-    const auto run = [&] { row.second(copy->program); };
+    const auto run = [&] {
+      copy->toolkit.WhenPumped([&] { copy->toolkit.Trace("yield"); });
+      row.second(copy->program);
+    };
     for (forms::Form* form : copy->toolkit.LoadedForms()) form->Show();
     copy->Windows().frmMain->frahelp.SetVisible(true);
     told += std::string(row.first) + "\n" + Tell(run);
     for (forms::Form* form : copy->toolkit.LoadedForms()) {
       if (form->Host() != nullptr) form->Hide();
     }
+    copy->Windows().frmMain->frahelp.SetVisible(true);
+    copy->Windows().FrmFrameHistory->lblcleaningstatus.SetCaption("");
+    copy->toolkit.Pump();
     told += std::string(row.first) + " again\n" + Tell(run);
+    copy->toolkit.Pump();
   }
   ExpectGolden("case-operations", told);
 }

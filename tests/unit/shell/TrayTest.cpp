@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "shell/Lifetime.h"
 #include "shell/Tray.h"
 #include "unit/shell/ShellTest.h"
@@ -26,6 +28,26 @@ class Tray : public test::ShellTest {
   program::Windows& Windows() { return copy->Windows(); }
   void Mouse(std::uint32_t code) {
     world.tray.Mouse(world.desktop, world.tray.Icons().at(0), code);
+  }
+  void Choose(forms::Menu& entry) {
+    copy->toolkit.ChooseFromPopup = [&entry](forms::Menu&) { return &entry; };
+    Mouse(517);
+  }
+  // Minimised and in the tray, with the Welcome panel hidden.
+  void PutAway() {
+    world.desktop.ShowWindow(Main().hWnd(), 6);
+    Main().Hide();
+    Windows().FrmFrameMain->Hide();
+  }
+  // What the windows show of the act, but for the controls.
+  std::vector<std::string> Shown(const std::function<void()>& act) {
+    std::vector<std::string> lines;
+    copy->toolkit.Trace = [&lines](const std::string& line) {
+      if (line.find('.') == std::string::npos) lines.push_back(line);
+    };
+    act();
+    copy->toolkit.Trace = nullptr;
+    return lines;
   }
 
   std::unique_ptr<Copy> copy;
@@ -67,6 +89,32 @@ TEST_F(Tray, ADoubleClickOnAMinimisedWindowRestoresItToNormalSize) {
   ASSERT_EQ(Main().WindowState(), WindowState::Minimized);
   Mouse(515);
   EXPECT_EQ(Main().WindowState(), WindowState::Normal);
+}
+
+TEST_F(Tray, ADoubleClickShowsThePanelThenRestoresThenShowsTheWindow) {
+  PutAway();
+  EXPECT_THAT(Shown([this] { Mouse(515); }),
+              ElementsAre("FrmFrameMain Show", "frmMain WindowState=0", "frmMain Show"));
+}
+
+TEST_F(Tray, ARightClickShowsThePanelThenTheMenu) {
+  PutAway();
+  EXPECT_THAT(Shown([this] { Mouse(517); }),
+              ElementsAre("FrmFrameMain Show", "frmMain PopupMenu mnusystemone"));
+  EXPECT_EQ(Main().WindowState(), WindowState::Minimized);
+}
+
+TEST_F(Tray, AnEntryRestoresThenShowsTheWindowThenItsPanel) {
+  PutAway();
+  EXPECT_THAT(Shown([this] { Choose(Main().mnusysCleaning); }),
+              ElementsAre("FrmFrameMain Show", "frmMain PopupMenu mnusystemone",
+                          "frmMain WindowState=0", "frmMain Show", "FrmFrameHistory Show"));
+}
+
+TEST_F(Tray, TheMainWindowsOwnDoubleClickRestoresThenShowsIt) {
+  PutAway();
+  EXPECT_THAT(Shown([this] { Main().MouseMove(0, 0, 515 * 15, 0); }),
+              ElementsAre("frmMain WindowState=0", "frmMain Show"));
 }
 
 TEST_F(Tray, ARightClickShowsTheWelcomePanelEvenIfTheMenuIsDismissed) {
@@ -148,10 +196,10 @@ TEST_F(Tray, EachEntryRestoresTheWindowAndGoesOnAsItsMenu) {
       {&frmMain::mnusysOpen, "FrmFrameMain"},
   };
   for (const auto& [entry, panel] : Cases) {
-    Main().Hide();
-    copy->toolkit.ChooseFromPopup = [&, chosen = entry](forms::Menu&) { return &(Main().*chosen); };
-    Mouse(517);
+    PutAway();
+    Choose(Main().*entry);
     EXPECT_TRUE(Main().Visible()) << panel;
+    EXPECT_EQ(Main().WindowState(), WindowState::Normal) << panel;
     EXPECT_THAT(ShownPanels(*copy), testing::Contains(panel));
     EXPECT_EQ(Main().lblVCP1.Caption(), "Welcome - Qorvel Software Vantrel ");
   }
@@ -191,10 +239,11 @@ TEST_F(Lifetime, ExitAlwaysExits) {
   EXPECT_TRUE(EngineEntryStands());
 }
 
-TEST_F(Lifetime, ExitFromTheTrayWithTheWindowHidden) {
-  Main().Hide();
-  copy->toolkit.ChooseFromPopup = [this](forms::Menu&) { return &Main().mnusysexit; };
-  Mouse(517);
+TEST_F(Lifetime, ExitFromTheTrayEndsWithoutARestore) {
+  PutAway();
+  const auto lines = Shown([this] { Choose(Main().mnusysexit); });
+  EXPECT_THAT(lines, testing::Not(testing::Contains("frmMain Show")));
+  EXPECT_EQ(Main().WindowState(), WindowState::Minimized);
   EXPECT_TRUE(copy->toolkit.Ending());
   EXPECT_THAT(world.tray.Icons(), IsEmpty());
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
@@ -208,6 +257,16 @@ TEST_F(Lifetime, TheCloseBoxEndsTheProcess) {
   ASSERT_EQ(world.desktop.windowLongCalls.size(), 1U);
   EXPECT_EQ(world.desktop.windowLongCalls[0].index, -4);
   EXPECT_EQ(world.desktop.windowLongCalls[0].value, 0);
+}
+
+// Without its own handler the main window unloads and the program does not end there.
+TEST_F(Lifetime, TheCloseBoxEndsTheProcessAlsoIfTheUnloadComesBack) {
+  Main().Unloading = nullptr;
+  ASSERT_TRUE(copy->user.Close(Main()));
+  EXPECT_TRUE(copy->toolkit.Ending());
+  EXPECT_THAT(copy->toolkit.LoadedForms(), IsEmpty());
+  EXPECT_THAT(world.tray.Icons(), IsEmpty());
+  EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
 }
 
 TEST_F(Lifetime, TheCloseBoxHidesToTheTrayIfToldSo) {

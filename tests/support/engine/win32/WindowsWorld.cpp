@@ -63,10 +63,6 @@ std::optional<std::string> ReadValue(Root root, const std::string& key, const st
 
 class WindowsWorld final : public World {
  public:
-  bool KeyExists(Root root, const std::string& key) override {
-    return OpenKey(root, key, KEY_QUERY_VALUE).Get() != nullptr;
-  }
-
   std::optional<std::string> ReadText(Root root, const std::string& key,
                                       const std::string& name) override {
     auto text = ReadValue(root, key, name, REG_SZ);

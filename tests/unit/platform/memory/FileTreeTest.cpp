@@ -64,6 +64,71 @@ TEST(FileTree, RemovingAFolderTakesWhatIsBelowAndNoNeighbour) {
   EXPECT_TRUE(files.IsFile("C:\\Directory"));
 }
 
+std::vector<std::string> Matching(const FileTree& files, const std::string& pattern) {
+  std::vector<DirectoryEntry> entries;
+  std::vector<std::string> names;
+  files.ListMatching(pattern, entries);
+  for (const DirectoryEntry& entry : entries) names.push_back(entry.Name);
+  return names;
+}
+
+TEST(FileTree, PatternsMatchNamesWithoutRegardToCase) {
+  FileTree files;
+  files.Put("C:\\Dir\\Cookies.txt", "");
+  files.Put("C:\\Dir\\cookies4.dat", "");
+  files.Put("C:\\Dir\\none", "");
+  EXPECT_THAT(Matching(files, "C:\\Dir\\COOKIES*"), ElementsAre("Cookies.txt", "cookies4.dat"));
+  EXPECT_THAT(Matching(files, "C:\\Dir\\*.t?t"), ElementsAre("Cookies.txt"));
+  EXPECT_THAT(Matching(files, "C:\\Dir\\*.*"),
+              ElementsAre(".", "..", "Cookies.txt", "cookies4.dat", "none"));
+  EXPECT_THAT(Matching(files, "C:\\Dir\\none"), ElementsAre("none"));
+  EXPECT_THAT(Matching(files, "C:\\*.*"), ElementsAre("Dir"));
+}
+
+TEST(FileTree, ALinkStandsForItsTargetAndIsRemovedItself) {
+  FileTree files;
+  files.Put("C:\\out\\f", "x");
+  files.MakeLink("C:\\Dir\\link", "C:\\out");
+  EXPECT_EQ(files.Read("C:\\Dir\\link\\f"), "x");
+  EXPECT_EQ(files.AttributesOf("C:\\Dir\\link"), AttributeDirectory | AttributeReparsePoint);
+  EXPECT_EQ(files.RemoveFolder("C:\\Dir\\link"), 0);
+  EXPECT_EQ(files.Read("C:\\out\\f"), "x");
+}
+
+TEST(FileTree, ALinkMayLeadBackToItselfOrNowhere) {
+  FileTree files;
+  files.MakeFolder("C:\\a");
+  files.MakeLink("C:\\a\\self", "C:\\a");
+  EXPECT_TRUE(files.IsFolder("C:\\a\\self\\self"));
+  files.MakeFolder("C:\\b");
+  files.MakeLink("C:\\a\\gone", "C:\\b");
+  files.Remove("C:\\b");
+  EXPECT_TRUE(files.Exists("C:\\a\\gone"));
+  EXPECT_FALSE(files.IsFolder("C:\\a\\gone"));
+  EXPECT_EQ(files.RemoveFolder("C:\\a\\gone"), 0);
+}
+
+TEST(FileTree, AnOpenFileOutlivesItsName) {
+  FileTree files;
+  files.Put("C:\\f", "abc");
+  std::shared_ptr<FileTree::Node> file;
+  ASSERT_EQ(files.Open("C:\\f", true, file), 0);
+  EXPECT_EQ(files.Delete("C:\\f"), 0);
+  EXPECT_EQ(files.WriteAt(*file, 5, "x"), 0);
+  EXPECT_EQ(FileTree::ContentOf(*file), std::string("abc\0\0x", 6));
+}
+
+TEST(FileTree, PathsAreMadeUpToTheLastBackslash) {
+  FileTree files;
+  EXPECT_TRUE(files.MakePath("C:\\a\\b\\c"));
+  EXPECT_TRUE(files.IsFolder("C:\\a\\b"));
+  EXPECT_FALSE(files.Exists("C:\\a\\b\\c"));
+  files.Put("C:\\a\\file", "");
+  EXPECT_TRUE(files.MakePath("C:\\a\\file\\"));
+  EXPECT_FALSE(files.MakePath("C:\\a\\file\\below\\"));
+  EXPECT_FALSE(files.MakePath("Q:\\a\\"));
+}
+
 TEST(FileTree, PartOfAPathIsAMisuse) {
   testing::GTEST_FLAG(death_test_style) = "threadsafe";
   FileTree files;

@@ -43,11 +43,11 @@ class FakeWorld final : public World {
   std::uint32_t& Setting(const std::string& name) { return numbers[{SettingsKey, name}]; }
   std::uint32_t& Counter(const std::string& name) { return numbers[{CountersKey, name}]; }
 
-  bool KeyExists(Root, const std::string& key) override { return keys.contains(key); }
   std::optional<std::string> ReadText(Root, const std::string& key,
                                       const std::string& name) override {
     const auto found = texts.find({key, name});
-    return found == texts.end() ? std::nullopt : std::optional(found->second);
+    if (found == texts.end() || !keys.contains(key)) return std::nullopt;
+    return found->second;
   }
   std::optional<std::uint32_t> ReadNumber(Root, const std::string& key,
                                           const std::string& name) override {
