@@ -1,5 +1,6 @@
 #include "settings/RegistryConversions.h"
 
+#include "platform/Registry.h"
 #include "text/Numbers.h"
 #include "text/RuntimeError.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/bmdlReg.h"
+#include "settings/RegistryData.h"
 
 namespace vantrel::settings {
 

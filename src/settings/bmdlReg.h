@@ -6,14 +6,11 @@
 
 #include <cstdint>
 #include <string>
-#include <variant>
 
 #include "platform/Registry.h"
+#include "settings/RegistryData.h"
 
 namespace vantrel::settings {
-
-// What a caller writes: a text or a number; the type asked for decides what is stored.
-using RegistryData = std::variant<std::string, std::int32_t>;
 
 // The value as text: a REG_SZ without one trailing NUL, a REG_DWORD in decimal; the empty text for
 // a missing key or value, data over 1024 bytes, or any other type. Error 5 for a value of zero

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "platform/Handles.h"
-#include "platform/memory/Fold.h"
 #include "platform/memory/Misuse.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 namespace {
@@ -87,7 +87,7 @@ struct FileTree::Node {
   }
 
   Node& Child(const std::string& childName, bool childIsFolder) {
-    auto& child = children[Fold(childName)];
+    auto& child = children[text::UpperCase(childName)];
     if (!child) {
       child = std::make_shared<Node>();
       child->name = childName;
@@ -122,7 +122,7 @@ std::shared_ptr<FileTree::Node> FileTree::Descend(const std::string& cleaned, in
     const std::string part = cleaned.substr(start, end - start);
     start = end + 1;
     if (part == ".") continue;
-    const auto found = node->children.find(Fold(part));
+    const auto found = node->children.find(text::UpperCase(part));
     if (found == node->children.end()) return nullptr;
     node = found->second;
   }
@@ -186,7 +186,8 @@ void FileTree::MakeLink(const std::string& path, const std::string& target) {
 }
 
 void FileTree::Erase(const std::string& path) {
-  if (const auto above = FolderAbove(path)) above->children.erase(Fold(NameOf(Clean(path))));
+  if (const auto above = FolderAbove(path))
+    above->children.erase(text::UpperCase(NameOf(Clean(path))));
 }
 
 void FileTree::Remove(const std::string& path) { Erase(path); }
@@ -318,7 +319,7 @@ std::int32_t FileTree::ListMatching(const std::string& pattern,
   if (!IsFull(cleaned) || EndsInSlash(pattern) || !folder || !folder->folder) {
     return ErrorPathNotFound;
   }
-  const std::string wanted = Fold(name == "*.*" ? "*" : name);
+  const std::string wanted = text::UpperCase(name == "*.*" ? "*" : name);
   const std::size_t before = entries.size();
   const bool isRoot = above.size() == 2;
   for (const char* dot : {".", ".."}) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/memory/Fold.h"
 #include "platform/memory/Misuse.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 namespace {
@@ -16,7 +16,7 @@ constexpr EntryAddress AddressStep = 0x10;
 
 void Libraries::Register(const std::string& path, const Entries& entries) {
   if (!files_.IsFile(path)) files_.Put(path, "MZ");
-  entries_[Fold(path)] = entries;
+  entries_[text::UpperCase(path)] = entries;
 }
 
 void Libraries::Release() {
@@ -28,7 +28,7 @@ void Libraries::Release() {
 }
 
 std::size_t Libraries::Loads(const std::string& path) const {
-  const auto found = loads_.find(Fold(path));
+  const auto found = loads_.find(text::UpperCase(path));
   return found == loads_.end() ? 0 : found->second;
 }
 
@@ -39,15 +39,15 @@ std::size_t Libraries::RunningThreads(ProcessId process) const {
 }
 
 bool Libraries::Exists(const std::string& path) const {
-  return files_.IsFile(path) && entries_.contains(Fold(path));
+  return files_.IsFile(path) && entries_.contains(text::UpperCase(path));
 }
 
 void Libraries::CountLoad(const std::string& path, int change) {
-  loads_[Fold(path)] += static_cast<std::size_t>(change);
+  loads_[text::UpperCase(path)] += static_cast<std::size_t>(change);
 }
 
 EntryAddress Libraries::Find(const std::string& path, const std::string& name) {
-  const auto library = entries_.find(Fold(path));
+  const auto library = entries_.find(text::UpperCase(path));
   if (library == entries_.end() || !library->second.contains(name)) return 0;
   const auto known =
       std::find_if(addresses_.begin(), addresses_.end(), [&](const Address& address) {

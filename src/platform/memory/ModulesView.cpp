@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/memory/Fold.h"
 #include "platform/memory/Misuse.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 namespace {
@@ -22,7 +22,7 @@ ModuleHandle ModulesView::LoadLibraryA(const std::string& text) {
   const std::string path = text.c_str();
   if (!world_.libraries.Exists(path)) return 0;
   const auto loaded = std::find_if(modules_.begin(), modules_.end(), [&](const auto& module) {
-    return SameName(module.second.path, path);
+    return text::EqualIgnoringCase(module.second.path, path);
   });
   world_.libraries.CountLoad(path, 1);
   if (loaded != modules_.end()) {

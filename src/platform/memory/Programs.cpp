@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "platform/Handles.h"
-#include "platform/memory/Fold.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 namespace {
@@ -31,13 +31,15 @@ std::string Unquoted(const std::string& commandLine) {
 }  // namespace
 
 void Programs::Register(const std::string& path, Main main) {
-  mains_[Fold(path)] = std::move(main);
+  mains_[text::UpperCase(path)] = std::move(main);
 }
 
-void Programs::RequireElevation(const std::string& path) { elevated_.insert(Fold(path)); }
+void Programs::RequireElevation(const std::string& path) {
+  elevated_.insert(text::UpperCase(path));
+}
 
 bool Programs::Exists(const std::string& path) const {
-  return mains_.contains(Fold(path)) || files_.IsFile(path);
+  return mains_.contains(text::UpperCase(path)) || files_.IsFile(path);
 }
 
 std::optional<std::string> Programs::Search(const std::string& folder,
@@ -94,7 +96,7 @@ std::int32_t Programs::Start(ProcessId starter, const std::string& folder,
                              int showCommand) {
   StartedProcess process{starter, application, commandLine, showCommand, {}, {}, false};
   if (const std::int32_t code = FindProgram(folder, process); code != ErrorSuccess) return code;
-  const std::string folded = Fold(process.program);
+  const std::string folded = text::UpperCase(process.program);
   const auto main = mains_.find(folded);
   if (main == mains_.end() && !folded.ends_with(".EXE") && !folded.ends_with(".COM")) {
     return ErrorBadExeFormat;

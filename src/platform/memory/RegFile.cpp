@@ -33,10 +33,6 @@ char ByteOf(std::uint16_t unit) {
   return unit < 0x100 ? static_cast<char>(unit) : '?';
 }
 
-bool IsText(std::uint32_t type) {
-  return type == RegSz || type == RegExpandSz || type == RegMultiSz;
-}
-
 int DigitOf(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -192,7 +188,7 @@ class Importer {
     }
     if (!Take(':')) return;
     const std::string bytes = ReadBytes();
-    Store(name, type, version5_ && IsText(type) ? FromUtf16(bytes) : bytes);
+    Store(name, type, version5_ && HoldsText(type) ? FromUtf16(bytes) : bytes);
   }
 
   // Bytes between commas, over lines that end with a backslash, up to the first thing that is
@@ -266,7 +262,7 @@ class Exporter {
     if (value.type != RegBinary) prefix = "hex(" + TypeDigits(value.type) + "):";
     text_ += prefix;
     column += prefix.size();
-    const std::string bytes = version5_ && IsText(value.type) ? ToUtf16(value.data) : value.data;
+    const std::string bytes = version5_ && HoldsText(value.type) ? ToUtf16(value.data) : value.data;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
       if (column + 3 > LineWidth) {
         text_ += "\\\r\n  ";

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/memory/Fold.h"
 #include "platform/memory/Misuse.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 namespace {
@@ -24,9 +24,10 @@ constexpr std::array<RootRow, 5> Roots{{
 }};
 
 auto PlaceOf(const RegistryKey& key, const std::string& folded) {
-  return std::lower_bound(
-      key.subkeys.begin(), key.subkeys.end(), folded,
-      [](const auto& subkey, const std::string& name) { return Fold(subkey->name) < name; });
+  return std::lower_bound(key.subkeys.begin(), key.subkeys.end(), folded,
+                          [](const auto& subkey, const std::string& name) {
+                            return text::UpperCase(subkey->name) < name;
+                          });
 }
 
 // An open handle may keep a deleted key longer than its parent lives.
@@ -50,9 +51,10 @@ std::vector<std::string> PathParts(std::string_view path) {
 }
 
 RegistryKey* RegistryKey::Subkey(std::string_view subkeyName) const {
-  const std::string folded = Fold(subkeyName);
+  const std::string folded = text::UpperCase(subkeyName);
   const auto place = PlaceOf(*this, folded);
-  return place != subkeys.end() && Fold((*place)->name) == folded ? place->get() : nullptr;
+  return place != subkeys.end() && text::UpperCase((*place)->name) == folded ? place->get()
+                                                                             : nullptr;
 }
 
 RegistryKey& RegistryKey::MakeSubkey(std::string_view subkeyName) {
@@ -60,12 +62,12 @@ RegistryKey& RegistryKey::MakeSubkey(std::string_view subkeyName) {
   auto made = std::make_shared<RegistryKey>();
   made->name = subkeyName;
   made->parent = this;
-  return **subkeys.insert(PlaceOf(*this, Fold(subkeyName)), std::move(made));
+  return **subkeys.insert(PlaceOf(*this, text::UpperCase(subkeyName)), std::move(made));
 }
 
 RegistryValue* RegistryKey::Value(std::string_view valueName) {
   for (RegistryValue& value : values) {
-    if (SameName(value.name, valueName)) return &value;
+    if (text::EqualIgnoringCase(value.name, valueName)) return &value;
   }
   return nullptr;
 }
@@ -82,7 +84,7 @@ void RegistryKey::SetValue(const std::string& valueName, std::uint32_t type,
 
 bool RegistryKey::DeleteValue(std::string_view valueName) {
   return std::erase_if(values, [valueName](const RegistryValue& value) {
-           return SameName(value.name, valueName);
+           return text::EqualIgnoringCase(value.name, valueName);
          }) > 0;
 }
 
@@ -117,7 +119,8 @@ std::shared_ptr<RegistryKey> RegistryTree::Root(KeyHandle root) const {
 
 KeyHandle RegistryTree::RootNamed(std::string_view name) {
   for (const RootRow& row : Roots) {
-    if (SameName(name, row.shortName) || SameName(name, row.longName)) return row.handle;
+    if (text::EqualIgnoringCase(name, row.shortName) || text::EqualIgnoringCase(name, row.longName))
+      return row.handle;
   }
   return 0;
 }

@@ -24,6 +24,11 @@ inline constexpr KeyHandle HKeyCurrentConfig = 0x80000005U;
 inline constexpr std::size_t MaxKeyNameLength = 255;
 inline constexpr std::size_t MaxValueNameLength = 16383;
 
+// Whether values of the type are texts.
+constexpr bool HoldsText(std::uint32_t type) {
+  return type == RegSz || type == RegExpandSz || type == RegMultiSz;
+}
+
 // What this user may not do with a key and all below it.
 enum class Refusal { None, Write, All };
 

@@ -64,10 +64,6 @@ std::int32_t SplitPath(KeyHandle root, const std::string& subkey, std::vector<st
   return ErrorSuccess;
 }
 
-bool IsText(std::uint32_t type) {
-  return type == RegSz || type == RegExpandSz || type == RegMultiSz;
-}
-
 }  // namespace
 
 RegistryView::OpenKey RegistryView::Lookup(KeyHandle handle) const {
@@ -160,7 +156,7 @@ std::int32_t RegistryView::RegQueryValueExA(KeyHandle key, const std::string& va
   std::copy(value->data.begin(), value->data.end(), buffer.begin());
   // A text without a terminator gets one where there is room; it is not counted.
   const bool terminated = value->data.ends_with('\0');
-  if (IsText(type) && length > 0 && length < room && !terminated) buffer[length] = '\0';
+  if (HoldsText(type) && length > 0 && length < room && !terminated) buffer[length] = '\0';
   return ErrorSuccess;
 }
 

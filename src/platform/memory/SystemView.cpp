@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/memory/Fold.h"
+#include "text/Strings.h"
 
 namespace vantrel::platform::memory {
 
@@ -21,7 +21,7 @@ bool SystemView::PreviousInstanceRuns() {
 }
 
 bool SystemView::Claim() {
-  const std::string name = Fold(self_.name);
+  const std::string name = text::UpperCase(self_.name);
   world_.claims.insert({name, self_.id});
   return std::any_of(world_.claims.begin(), world_.claims.end(), [&](const auto& claim) {
     return claim.first == name && claim.second != self_.id;

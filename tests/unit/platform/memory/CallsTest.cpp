@@ -97,10 +97,12 @@ TEST_F(MemoryCalls, NoTextIsMadeForATraceThatDoesNotRecord) {
 }
 
 TEST_F(MemoryCalls, ReadingATraceThatWasNotStartedIsAMisuse) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
   EXPECT_DEATH(process_.Trace().Lines(), "a trace is read that was not started");
 }
 
 TEST_F(MemoryCalls, ANameThatNoCallHasIsAMisuse) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
   EXPECT_DEATH(process_.Faults().FailEvery("RegFlushKey", 5), "no call is named RegFlushKey");
 }
 
