@@ -180,7 +180,8 @@ void Start(Program& program) {
     program.windows.frmMain.EnsureLoaded();
     finished = true;
   });
-  if (finished || program.toolkit.Ending()) return;
+  // A main window that could not be made is not tried again: behind its box the process ends.
+  if (finished || program.toolkit.Ending() || !program.windows.frmMain.Loaded()) return;
   program.toolkit.AtBorder([&program] { program.windows.frmMain->Show(); });
 }
 

@@ -9,8 +9,9 @@
 namespace vantrel::shell {
 
 // Starts one copy: makes the main window, whose Load is the whole sequence. An error that nothing
-// trapped ends the sequence with a box and leaves the main window on the screen, usable. The
-// program has ended afterwards if toolkit.Ending().
+// trapped ends the sequence with a box and leaves the main window on the screen, usable; without a
+// main window, which could not be made, there is nothing to leave. The program has ended afterwards
+// if toolkit.Ending().
 void Start(program::Program& program);
 
 // Copies the saved settings into the panels. Any error ends it silently.

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "shell/Lifetime.h"
 #include "unit/shell/ShellTest.h"
 #include "windows/FrmFrameBlockPreferences.h"
 #include "windows/FrmFrameHistory.h"
@@ -201,6 +202,31 @@ TEST_F(Startup, AnErrorThatNothingTrapsEndsInABoxAndAUsableWindow) {
   EXPECT_TRUE(copy->Windows().frmMain->Visible());
   EXPECT_TRUE(copy->user.Select(copy->Windows().frmMain->MnuClean));
   EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
+}
+
+// A system that makes no window.
+struct RefusingToolkit : forms::headless::Toolkit {
+  using Toolkit::Toolkit;
+  std::unique_ptr<forms::FormPeer> MakeWindow(forms::Form&) override {
+    ++Asked;
+    throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
+  }
+  int Asked = 0;
+};
+
+TEST_F(Startup, AMainWindowThatCannotBeMadeIsNotTriedAgain) {
+  platform::memory::Process process(world);
+  RefusingToolkit toolkit(world.desktop, world.clock, process.Id());
+  program::Program program(process.Platform(), toolkit);
+  AttachProgram(program);
+  Start(program);
+  EXPECT_EQ(toolkit.Asked, 1);
+  ASSERT_EQ(process.Boxes().size(), 1U);
+  EXPECT_EQ(process.Boxes()[0].text, "Run-time error '7':\r\n\r\nOut of memory");
+  EXPECT_FALSE(program.windows.frmMain.Loaded());
+  Finish(program);
+  EXPECT_EQ(toolkit.Asked, 1);
+  EXPECT_EQ(process.Boxes().size(), 1U);
 }
 
 TEST_F(Startup, AHandedOverStartHasATrayIconOfItsOwnAndWritesDisabled) {
