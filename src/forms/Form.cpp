@@ -37,7 +37,7 @@ Form::Form(Toolkit& toolkit, std::string name, const FormDesign& design)
       backColor_(design.BackColor) {}
 
 Form::~Form() {
-  toolkit_.Leave(*this, false);
+  toolkit_.LeaveGone(*this);
   std::erase(toolkit_.loadedForms_, this);
   LetHostedGo();
 }
@@ -103,7 +103,7 @@ void Form::Unload(int mode) {
 // The window counts as loaded until its peers are gone: what their going raises must not make it
 // anew.
 void Form::Destroy() {
-  toolkit_.Leave(*this, false);
+  toolkit_.LeaveGone(*this);
   visible_ = false;
   for (Control* control : controls_) control->DetachPeer();
   peer_.reset();
@@ -121,10 +121,10 @@ void Form::Show() {
 }
 
 void Form::ShowModal() {
+  const text::ScopedFlag modal(modal_);
   Show();
   if (peer_ && visible_) {
     const Toolkit::Pumping pumping(toolkit_);
-    const text::ScopedFlag modal(modal_);
     peer_->RunModal();
   }
   toolkit_.ThrowIfEnding();
@@ -137,8 +137,9 @@ void Form::Hide() {
 void Form::SetVisible(bool visible) {
   if (visible_ == visible) return;
   visible_ = visible;
+  // Before the screen moves its own focus, as the user would: hiding by code asks no control.
+  if (!visible_) toolkit_.LeaveHidden(*this);
   Changed(Aspect::Visible);
-  if (!visible_) toolkit_.Leave(*this, true);
 }
 
 bool Form::Shown() const { return visible_ && (host_ == nullptr || host_->Shown()); }
@@ -214,11 +215,16 @@ void Form::UserResizes(int width, int height, forms::WindowState state) {
 void Form::UserShows(bool visible) {
   if (visible_ == visible) return;
   visible_ = visible;
-  if (!visible_) toolkit_.Leave(*this, true);
+  if (!visible_) toolkit_.LeaveHidden(*this);
 }
 
 void Form::BecomesActive() {
   if (toolkit_.activeForm_ == this || !loaded_ || !Shown()) return;
+  // What is shown behind a modal dialog leaves that active.
+  const bool behind = !Outermost().modal_ &&
+                      std::any_of(toolkit_.loadedForms_.begin(), toolkit_.loadedForms_.end(),
+                                  [](const Form* form) { return form->modal_ && form->visible_; });
+  if (behind) return;
   toolkit_.activeForm_ = this;
   Activate();
 }

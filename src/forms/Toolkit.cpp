@@ -5,8 +5,20 @@
 #include <utility>
 
 #include "forms/Form.h"
+#include "text/ScopedFlag.h"
 
 namespace vantrel::forms {
+namespace {
+
+// Whether `inside` is the form, or shows within it.
+bool LiesIn(const Form& form, const Form* inside) {
+  for (; inside != nullptr; inside = inside->Host()) {
+    if (inside == &form) return true;
+  }
+  return false;
+}
+
+}  // namespace
 
 Toolkit::~Toolkit() { EndOfBorder(); }
 
@@ -69,13 +81,22 @@ void Toolkit::Discard(std::unique_ptr<Form> form) {
 }
 
 bool Toolkit::UserMovesFocus(Control* to) {
-  if (to == focus_) return true;
+  if (to == focus_ || asking_) return true;
   Control* const from = focus_;
-  if (from != nullptr && !from->UserLeaves()) return false;
+  if (from != nullptr && !MayLeave(*from)) return false;
   // The handler may have moved the focus itself; that stands.
   if (focus_ != from) return focus_ == to;
   Transfer(to, false);
   return focus_ == to;
+}
+
+// The box of an error comes up within the border here, while the control still counts as asked.
+bool Toolkit::MayLeave(Control& control) {
+  const text::ScopedFlag asking(asking_);
+  bool leaves = true;
+  AtBorder([&] { leaves = control.UserLeaves(); });
+  ThrowIfEnding();
+  return leaves;
 }
 
 void Toolkit::MoveFocus(Control* to) {
@@ -93,17 +114,16 @@ void Toolkit::Transfer(Control* to, bool tellPeer) {
   if (to != nullptr && focus_ == to) to->GotFocus();
 }
 
-void Toolkit::Leave(const Form& form, bool raiseLostFocus) {
-  const auto lies = [&form](Form* inside) {
-    for (; inside != nullptr; inside = inside->Host()) {
-      if (inside == &form) return true;
-    }
-    return false;
-  };
-  if (lies(activeForm_)) activeForm_ = nullptr;
-  if (focus_ == nullptr || !lies(&focus_->Owner())) return;
-  Control* const from = std::exchange(focus_, nullptr);
-  if (raiseLostFocus) from->LostFocus();
+void Toolkit::LeaveHidden(Form& form) {
+  if (LiesIn(form, activeForm_)) activeForm_ = nullptr;
+  if (focus_ == nullptr || !LiesIn(form, &focus_->Owner())) return;
+  const Form& around = form.Outermost();
+  Transfer(around.Shown() ? around.NextTabStop(nullptr) : nullptr, true);
+}
+
+void Toolkit::LeaveGone(const Form& form) {
+  if (LiesIn(form, activeForm_)) activeForm_ = nullptr;
+  if (focus_ != nullptr && LiesIn(form, &focus_->Owner())) focus_ = nullptr;
 }
 
 }  // namespace vantrel::forms

@@ -64,7 +64,9 @@ class Toolkit {
   Control* Focus() const { return focus_; }
   // From the screen's side: the user moves the focus, to nullptr when it leaves the program's
   // controls. Asks the control that is being left (a combo box raises Validate), then raises
-  // LostFocus and GotFocus. False if the focus is to stay, or to go back, where it was.
+  // LostFocus and GotFocus. False if the focus is to stay, or to go back, where it was. While a
+  // control is being asked nothing moves and nobody is asked again: a box that the question brings
+  // up takes the screen's focus and gives it back. An error of the question keeps nothing.
   bool UserMovesFocus(Control* to);
   // From code: the same without asking.
   void MoveFocus(Control* to);
@@ -114,9 +116,13 @@ class Toolkit {
 
   void Report(const text::RuntimeError& error) noexcept;
   void EndOfBorder() noexcept;
+  bool MayLeave(Control& control);
   void Transfer(Control* to, bool tellPeer);
-  // The window no longer shows: neither it nor what it hosts is active or has the focus.
-  void Leave(const Form& form, bool raiseLostFocus);
+  // The window no longer shows: neither it nor what it hosts is active or has the focus. From a
+  // panel the focus goes to the window around it; nobody is asked.
+  void LeaveHidden(Form& form);
+  // The same for a window that goes, with no event.
+  void LeaveGone(const Form& form);
 
   std::vector<Form*> loadedForms_;
   std::vector<std::unique_ptr<Form>> discarded_;
@@ -124,6 +130,7 @@ class Toolkit {
   Control* focus_ = nullptr;
   int depth_ = 0;
   int screenPointer_ = 0;
+  bool asking_ = false;
   bool ending_ = false;
 };
 

@@ -240,13 +240,17 @@ void Window::PopupMenu(Menu& menu) {
 
 Handle Window::IconHandle() const { return IconOfThePrograms; }
 
-// A hosted window keeps its place in the stack, which is that of its hosting.
+// A hosted window keeps its place in the stack, which is that of its hosting; a modal dialog stays
+// in front.
 void Window::Activate() {
   if (form_.Host() != nullptr) return;
   memory::Desktop& desktop = toolkit_.Desktop();
   if (!desktop.IsWindow(handle_)) return;
   desktop.BringToFront(handle_);
-  if (form_.Shown()) desktop.SetForegroundWindow(handle_);
+  const Form* modal = toolkit_.ModalForm();
+  const Form& front = modal != nullptr ? *modal : form_;
+  if (&front != &form_) desktop.BringToFront(front.hWnd());
+  if (front.Shown()) desktop.SetForegroundWindow(front.hWnd());
 }
 
 bool Window::Takes(const memory::Message& message) {

@@ -7,6 +7,7 @@
 #include "settings/Load.h"
 #include "support/ComponentFixture.h"
 #include "windows/FrmFrameNotification.h"
+#include "windows/frmMain.h"
 
 namespace vantrel::blocking {
 namespace {
@@ -196,6 +197,37 @@ TEST_F(Notification, LeavingTheListWithATextThatIsNoEntryPicksClickAndSavesNothi
   EXPECT_EQ(BlockSaves(), 1) << "the corrected sound, on leaving again";
   AsEvent([&] { Panel().cmbsound.SetListIndex(3); });
   EXPECT_EQ(BlockSaves(), 2) << "picking saves as before";
+}
+
+// A box gives the screen's focus back to what was pressed, which is not a second leaving.
+TEST_F(Notification, LeavingTheListWithAFailingSaveShowsOneBoxByMouseAndByTab) {
+  program.windows.frmMain->Show();
+  Panel().Show();
+  process.AnswerBox = [&](const platform::memory::Box&) {
+    toolkit.AtBorder([&] { toolkit.UserMovesFocus(&Panel().chkNW); });
+    return platform::AnswerOk;
+  };
+  world.registry.Set(platform::HKeyCurrentUser, Tree("Block Settings"), "BpID", platform::RegSz,
+                     "");
+  Panel().cmbsound.SetFocus();
+  EXPECT_TRUE(user.Click(Panel().chkNW));
+  EXPECT_EQ(process.Boxes().size(), 2U) << "one of the list, one of the box";
+  EXPECT_EQ(toolkit.Focus(), &Panel().chkNW);
+  EXPECT_EQ(Panel().chkNW.Value(), 1);
+  process.ClearBoxes();
+  Panel().cmbsound.SetFocus();
+  EXPECT_TRUE(user.Tab(true));
+  EXPECT_EQ(process.Boxes().size(), 1U);
+  EXPECT_EQ(toolkit.Focus(), &Panel().chkNS);
+}
+
+TEST_F(Notification, HidingThePanelWithTheFocusInTheListSavesNothing) {
+  program.windows.frmMain->Show();
+  Panel().Show();
+  Panel().cmbsound.SetFocus();
+  Panel().Hide();
+  EXPECT_THAT(Writes(), IsEmpty());
+  EXPECT_NE(toolkit.Focus(), &Panel().cmbsound);
 }
 
 TEST_F(Notification, PickingAnotherSoundSavesOnceAndTheSameOneNotAtAll) {

@@ -325,6 +325,61 @@ TEST_F(Forms, AValidatedFocusMoves) {
   EXPECT_THAT(notes, ElementsAre("validate", "lost", "got"));
 }
 
+// A box that the question brings up takes the screen's focus, and gives it to what was pressed.
+TEST_F(Forms, AControlIsAskedOnceHoweverTheScreensFocusMovesMeanwhile) {
+  form.Show();
+  form.pickOnly.Validate = [&](bool&) {
+    notes.push_back("validate");
+    EXPECT_TRUE(toolkit.UserMovesFocus(&form.button));
+    EXPECT_TRUE(toolkit.UserMovesFocus(nullptr));
+    EXPECT_EQ(&form.pickOnly, toolkit.Focus());
+  };
+  form.button.GotFocus = Note("got");
+  form.pickOnly.SetFocus();
+  EXPECT_TRUE(toolkit.UserMovesFocus(&form.button));
+  EXPECT_EQ(&form.button, toolkit.Focus());
+  EXPECT_THAT(notes, ElementsAre("validate", "got"));
+}
+
+TEST_F(Forms, AnErrorOfTheQuestionIsShownOnceAndKeepsNothing) {
+  form.Show();
+  form.pickOnly.Validate = [&](bool& keep) {
+    keep = true;
+    throw text::RuntimeError(text::ErrorNumber::TypeMismatch);
+  };
+  toolkit.OnUntrappedError = [&](const text::RuntimeError&) {
+    notes.push_back("error");
+    EXPECT_TRUE(toolkit.UserMovesFocus(&form.button));
+  };
+  form.pickOnly.SetFocus();
+  EXPECT_TRUE(toolkit.UserMovesFocus(&form.button));
+  EXPECT_EQ(&form.button, toolkit.Focus());
+  EXPECT_THAT(notes, ElementsAre("error"));
+}
+
+TEST_F(Forms, TheEndOfTheProgramLeavesTheQuestion) {
+  form.Show();
+  form.pickOnly.Validate = [&](bool&) { toolkit.End(); };
+  form.pickOnly.SetFocus();
+  EXPECT_THROW(toolkit.UserMovesFocus(&form.button), EndProgram);
+}
+
+TEST_F(Forms, AHiddenPanelGivesTheFocusToTheWindowAroundAndAsksNobody) {
+  form.Show();
+  panel.EnsureLoaded();
+  panel.SetHost(&form);
+  panel.Show();
+  panel.pickOnly.Validate = [&](bool&) { notes.push_back("validate"); };
+  panel.pickOnly.LostFocus = Note("lost");
+  form.text.GotFocus = Note("got");
+  panel.pickOnly.SetFocus();
+  // What the screen moves when its window goes is behind the model's own move.
+  PeerOf(panel).WhenChanged = [&](Aspect) { EXPECT_EQ(&form.text, toolkit.Focus()); };
+  panel.Hide();
+  EXPECT_EQ(&form.text, toolkit.Focus());
+  EXPECT_THAT(notes, ElementsAre("lost", "got"));
+}
+
 TEST_F(Forms, AHandlerThatMovesTheFocusItselfIsLeftToIt) {
   form.Show();
   form.text.LostFocus = [&] { form.check.SetFocus(); };

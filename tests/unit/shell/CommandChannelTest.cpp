@@ -4,6 +4,7 @@
 #include "shell/Navigation.h"
 #include "shell/bmdlActivate.h"
 #include "unit/shell/ShellTest.h"
+#include "windows/FrmAbout.h"
 #include "windows/FrmFrameGraph.h"
 #include "windows/FrmFrameHistory.h"
 #include "windows/FrmFrameMain.h"
@@ -174,6 +175,29 @@ TEST_F(CommandChannel, ASenderThatFoundTheButtonEarlierIsServedWithinAnotherDeli
   // And the channel is open for the next.
   SendFromOutside("/clean");
   EXPECT_TRUE(Windows().FrmFrameHistory->Visible());
+}
+
+TEST_F(CommandChannel, AModalDialogStaysInFrontOfWhatACommandShows) {
+  for (const char* command : {"", "/graph", "/customtoolbar"}) {
+    bool delivered = false;
+    copy->toolkit.WaitForEvents = [&] {
+      copy->toolkit.WhenPumped([&] {
+        SendFromOutside(command);
+        delivered = true;
+        EXPECT_EQ(copy->toolkit.ActiveForm(), &*Windows().FrmAbout) << command;
+        EXPECT_EQ(world.desktop.Foreground(), Windows().FrmAbout->hWnd()) << command;
+        EXPECT_FALSE(copy->user.CanReach(Main()));
+        EXPECT_TRUE(copy->user.Enter());
+      });
+      return true;
+    };
+    EXPECT_TRUE(copy->user.Select(Main().submnuAbout));
+    EXPECT_TRUE(delivered);
+    EXPECT_FALSE(Windows().FrmAbout.Loaded()) << command;
+    EXPECT_EQ(Main().Visible(), std::string(command) != "/customtoolbar");
+    SendFromOutside("");
+    EXPECT_TRUE(copy->user.CanReach(Main())) << command;
+  }
 }
 
 TEST_F(CommandChannel, AnUntrappedErrorOfACommandLeavesTheChannelOpen) {
