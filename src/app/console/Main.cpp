@@ -2,14 +2,15 @@
 #include <unistd.h>
 
 #include <cstdio>
-#include <fstream>
+#include <filesystem>
 #include <iostream>
 #include <optional>
+#include <sstream>
 #include <string>
 
 #include "app/console/Commands.h"
 #include "app/console/Console.h"
-#include "app/console/StateFile.h"
+#include "app/console/State.h"
 #include "app/console/Words.h"
 
 namespace {
@@ -63,7 +64,7 @@ std::optional<Arguments> Parse(int count, char** words) {
 
 int RunWith(Console& console, const std::string& state) {
   using namespace vantrel::console;
-  if (!state.empty() && RealFileExists(state)) {
+  if (!state.empty() && std::filesystem::exists(state)) {
     console.TheSession().Replace(WindowsFromState(ReadRealFile(state)));
   }
   const bool done = console.Run();
@@ -72,11 +73,8 @@ int RunWith(Console& console, const std::string& state) {
 }
 
 int Run(const Arguments& arguments) {
-  std::ifstream script;
-  if (!arguments.script.empty()) {
-    script.open(arguments.script, std::ios::binary);
-    if (!script) throw CommandError("cannot read the script " + arguments.script);
-  }
+  std::istringstream script;
+  if (!arguments.script.empty()) script.str(vantrel::console::ReadRealFile(arguments.script));
   ConsoleOptions options = arguments.options;
   options.Prompt = arguments.script.empty() && isatty(STDIN_FILENO) != 0;
   std::istream& in = arguments.script.empty() ? std::cin : script;

@@ -12,6 +12,9 @@ namespace {
 // Longer names than any here are cut, so that no input makes the comparison slow.
 constexpr std::size_t LongestCompared = 64;
 
+// More names than these, the calls to Windows among them, are no help to anybody.
+constexpr std::size_t MostChoices = 100;
+
 struct Candidate {
   std::size_t distance;
   std::string name;
@@ -21,10 +24,10 @@ bool BeginsWith(const std::string& name, const std::string& beginning) {
   return text::EqualIgnoringCase(std::string_view(name).substr(0, beginning.size()), beginning);
 }
 
-std::string Enumerate(const std::vector<std::string>& names) {
+std::string Enumerate(const std::vector<std::string>& names, const char* last = " or ") {
   std::string text;
   for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) text += i + 1 == names.size() ? " or " : ", ";
+    if (i > 0) text += i + 1 == names.size() ? last : ", ";
     text += Printable(names[i]);
   }
   return text;
@@ -65,8 +68,9 @@ std::vector<std::string> Nearest(std::string_view wanted, const std::vector<std:
   for (const std::string& name : names) {
     const bool begun = !wanted.empty() && BeginsWith(name, std::string(wanted));
     const std::size_t distance = begun ? 0 : EditDistance(wanted, name);
-    if (distance <= std::max(wanted.size(), name.size()) / 2)
-      candidates.push_back({distance, name});
+    // Half of the shorter one: nothing is near to a long caption by its length alone.
+    const std::size_t length = std::min({wanted.size(), name.size(), LongestCompared});
+    if (distance <= length / 2) candidates.push_back({distance, name});
   }
   std::stable_sort(candidates.begin(), candidates.end(), [](const auto& one, const auto& other) {
     return one.distance < other.distance;
@@ -81,7 +85,9 @@ std::vector<std::string> Nearest(std::string_view wanted, const std::vector<std:
 
 std::string Suggestion(std::string_view wanted, const std::vector<std::string>& names) {
   const std::vector<std::string> nearest = Nearest(wanted, names);
-  return nearest.empty() ? std::string() : "; did you mean " + Enumerate(nearest) + "?";
+  if (!nearest.empty()) return "; did you mean " + Enumerate(nearest) + "?";
+  const bool few = !names.empty() && names.size() <= MostChoices;
+  return few ? "; there are " + Enumerate(names, " and ") : std::string();
 }
 
 std::size_t PickName(const std::string& kind, const std::string& wanted,

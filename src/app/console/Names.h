@@ -17,13 +17,21 @@ std::size_t EditDistance(std::string_view one, std::string_view other);
 std::vector<std::string> Nearest(std::string_view wanted, const std::vector<std::string>& names,
                                  std::size_t most = 3);
 
-// "; did you mean A, B or C?", empty for no names.
+// "; did you mean A, B or C?", or where none is near, all names unless there are many.
 std::string Suggestion(std::string_view wanted, const std::vector<std::string>& names);
 
 // The 0-based place of the name that equals `wanted`, or that alone begins with it. CommandError
 // otherwise: it calls the names' kind by `kind`, and suggests.
 std::size_t PickName(const std::string& kind, const std::string& wanted,
                      const std::vector<std::string>& names);
+
+// The row of a table that is named so; its rows have a `name`.
+template <class Table>
+const auto& PickRow(const std::string& kind, const std::string& wanted, const Table& table) {
+  std::vector<std::string> names;
+  for (const auto& row : table) names.emplace_back(row.name);
+  return table[PickName(kind, wanted, names)];
+}
 
 }  // namespace vantrel::console
 

@@ -1,5 +1,7 @@
+#include <array>
+
+#include "app/console/Commands.h"
 #include "app/console/Find.h"
-#include "app/console/Handlers.h"
 #include "app/console/Names.h"
 #include "app/console/Screen.h"
 #include "app/console/Words.h"
@@ -13,12 +15,6 @@ namespace memory = platform::memory;
 // As the shell tells the mouse on an icon.
 constexpr std::uint32_t LeftDoubleClick = 515;
 constexpr std::uint32_t RightButtonUp = 517;
-
-std::string Joined(const Words& words) {
-  std::string line;
-  for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
-  return line;
-}
 
 // A visible entry of a menu that has popped up; telling the entries when none is asked for.
 forms::Menu* PickFrom(Session& session, forms::Menu& menu, const std::string& wanted,
@@ -69,8 +65,6 @@ void ListIcons(Session& session) {
   if (icons.empty()) session.Say("no icon");
 }
 
-}  // namespace
-
 void StartCopy(Session& session, const Words& words) { session.Start(Joined(words)); }
 
 void SendCommand(Session& session, const Words& words) {
@@ -99,5 +93,25 @@ void ClickTray(Session& session, const Words& words) {
 void Quit(Session& session, const Words&) { session.Quitting = true; }
 
 void Help(Session& session, const Words& words) { session.Write(HelpText(words)); }
+
+constexpr std::array Table{
+    Command{"start", "[COMMAND LINE]",
+            "starts a copy; with one running already, it hands its command line over and ends", 0,
+            AnyNumber, StartCopy},
+    Command{"command", "LINE", "the same, only with one running: command /clean", 1, AnyNumber,
+            SendCommand},
+    Command{"exit", "", "chooses Exit from the menu bar, or from the tray icon's menu", 0, 0,
+            ExitProgram},
+    Command{"logoff", "", "ends the user's session", 0, 0, LogOff},
+    Command{"tray", "[left | right [ENTRY]]",
+            "shows the tray icons; double-clicks the last one; opens its menu and chooses", 0, 2,
+            ClickTray},
+    Command{"help", "[COMMAND]", "tells the commands", 0, 2, Help},
+    Command{"quit", "", "leaves the console; a running program is just gone", 0, 0, Quit},
+};
+
+}  // namespace
+
+std::span<const Command> ProgramCommands() { return Table; }
 
 }  // namespace vantrel::console

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <system_error>
 
-#include "app/console/StateFile.h"
+#include "app/console/State.h"
 #include "app/console/Words.h"
 
 namespace vantrel::console {
@@ -51,11 +51,6 @@ void WriteRealFile(const std::string& path, const std::string& content) {
   if (!error) return;
   std::remove(beside.c_str());
   Refuse("write", path, error.message());
-}
-
-bool RealFileExists(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::exists(path, error);
 }
 
 }  // namespace vantrel::console

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "app/console/Boxes.h"
-#include "app/console/FreshWindows.h"
 #include "app/console/Screen.h"
+#include "app/console/State.h"
 #include "app/console/Words.h"
 #include "shell/Attach.h"
 #include "shell/Startup.h"

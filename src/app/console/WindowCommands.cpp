@@ -1,8 +1,9 @@
+#include <array>
 #include <charconv>
 #include <optional>
 
+#include "app/console/Commands.h"
 #include "app/console/Find.h"
-#include "app/console/Handlers.h"
 #include "app/console/Names.h"
 #include "app/console/Screen.h"
 #include "app/console/Words.h"
@@ -142,8 +143,6 @@ constexpr KeyRow Keys[] = {
     {"escape", [](forms::headless::User& hand) { return hand.Escape(); }},
 };
 
-}  // namespace
-
 void Show(Session& session, const Words& words) {
   const Toolkit& toolkit = session.Current().Toolkit;
   if (words.empty()) return ShowScreen(session, toolkit);
@@ -221,9 +220,7 @@ void PressTool(Session& session, const Words& words) {
 }
 
 void PressKey(Session& session, const Words& words) {
-  std::vector<std::string> names;
-  for (const KeyRow& row : Keys) names.emplace_back(row.name);
-  const KeyRow& row = Keys[PickName("key", words.front(), names)];
+  const KeyRow& row = PickRow("key", words.front(), Keys);
   Copy& copy = session.Current();
   const bool done = row.press(copy.Hand);
   if (copy.Ended()) return;
@@ -265,5 +262,31 @@ void CloseWindow(Session& session, const Words& words) {
     throw CommandError("cannot: " + name + " has no close box, is hidden, or lies behind another");
   }
 }
+
+constexpr std::array Table{
+    Command{"show", "[WINDOW | CONTROL | all]",
+            "shows the windows as text; a window or control with all that is in it", 0, 1, Show},
+    Command{"click", "CONTROL", "clicks a button, link, label or box", 1, 1, Click},
+    Command{"point", "CONTROL", "moves the mouse over a control", 1, 1, PointAt},
+    Command{"tick", "BOX | LIST ROW", "ticks a check box or option, or the mark of a row", 1, 2,
+            Tick},
+    Command{"untick", "BOX | LIST ROW", "clears a check box, or the mark of a row", 1, 2, Untick},
+    Command{"choose", "COMBO ENTRY", "picks an entry of a drop-down list", 2, 2, Choose},
+    Command{"type", "CONTROL TEXT", "replaces the text of a box", 2, 2, Type},
+    Command{"select", "LIST ROW", "selects a row by its number or text", 2, 2, Select},
+    Command{"menu", "ENTRY", "chooses from the menu bar: menu \"File/Start Blocking\"", 1, 1,
+            ChooseMenu},
+    Command{"tool", "NUMBER | TIP", "presses a tool button", 1, 1, PressTool},
+    Command{"key", "tab | back | enter | space | escape", "presses a key", 1, 1, PressKey},
+    Command{"size", "WIDTH HEIGHT [WINDOW]", "gives a window another size, in twips", 2, 3, Resize},
+    Command{"window", "minimize | maximize | restore [WINDOW]", "changes a window's state", 1, 2,
+            SetWindowState},
+    Command{"close", "[WINDOW]", "presses the close box of the window in front, or of this one", 0,
+            1, CloseWindow},
+};
+
+}  // namespace
+
+std::span<const Command> WindowCommands() { return Table; }
 
 }  // namespace vantrel::console

@@ -93,6 +93,12 @@ std::vector<std::string> SplitWords(std::string_view line, std::size_t longest) 
   return Splitter(line).Run();
 }
 
+std::string Joined(const std::vector<std::string>& words) {
+  std::string line;
+  for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
+  return line;
+}
+
 std::string Printable(std::string_view text) {
   std::string line;
   line.reserve(text.size());

@@ -24,6 +24,9 @@ inline constexpr std::size_t LongestLine = 65536;
 // a NUL, and for a line longer than `longest`.
 std::vector<std::string> SplitWords(std::string_view line, std::size_t longest = LongestLine);
 
+// The words with a blank between them.
+std::string Joined(const std::vector<std::string>& words);
+
 // The text on one line, in printable ASCII: a carriage return, line feed and tab as \r, \n and \t,
 // every other unprintable byte as \xNN.
 std::string Printable(std::string_view text);

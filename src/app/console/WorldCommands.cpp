@@ -1,12 +1,11 @@
 #include <array>
-#include <cstdio>
 
 #include "app/console/Boxes.h"
-#include "app/console/Handlers.h"
+#include "app/console/Commands.h"
 #include "app/console/Names.h"
-#include "app/console/Paths.h"
-#include "app/console/StateFile.h"
+#include "app/console/State.h"
 #include "app/console/Words.h"
+#include "platform/memory/CallNames.h"
 #include "text/Strings.h"
 
 namespace vantrel::console {
@@ -16,57 +15,18 @@ namespace memory = platform::memory;
 
 constexpr long long LongestAdvance = 24LL * 60 * 60 * 1000;
 
-// The calls that the program makes of Windows.
-const std::vector<std::string>& CallNames() {
-  static const std::vector<std::string> names{
-      "RegOpenKeyExA",        "RegOpenKeyA",         "RegCreateKeyExA",    "RegQueryValueExA",
-      "RegSetValueExA",       "RegDeleteKeyA",       "RegDeleteValueA",    "RegEnumValueA",
-      "RegEnumKeyA",          "RegCloseKey",         "InitCommonControls", "EnumWindows",
-      "EnumChildWindows",     "GetWindowTextA",      "GetParent",          "IsIconic",
-      "ShowWindow",           "SetForegroundWindow", "SetParent",          "SendMessageA",
-      "SendTextMessageA",     "SetWindowLongA",      "keybd_event",        "GetCursorPos",
-      "WindowFromPoint",      "Shell_NotifyIconA",   "ShellExecuteA",      "FileExists",
-      "FileLength",           "ReadTextFile",        "CreateTextFile",     "WriteTextFile",
-      "AppendTextFile",       "CreateProcessA",      "sndPlaySoundA",      "MessageBoxA",
-      "GetVersionExA",        "CommandLineTail",     "ProgramFolder",      "ProgramName",
-      "PreviousInstanceRuns",
-  };
-  return names;
-}
-
-std::string ClockText(const memory::LocalTime& time) {
-  std::array<char, 100> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
-                time.day, time.hour, time.minute, time.second);
-  return text.data();
-}
-
-memory::LocalTime ParseClock(const std::string& date, const std::string& time) {
-  const std::vector<std::string> day = text::Split(date, '-');
-  const std::vector<std::string> hour = text::Split(time, ':');
-  if (day.size() != 3 || hour.size() != 3) {
-    throw CommandError("the time goes: 2004-03-15 12:00:00");
-  }
-  const auto part = [](const std::string& digits, int least, int most) {
-    return static_cast<int>(ParseNumber(digits, least, most, "a part of the time"));
-  };
-  return {part(day[0], 1601, 9999), part(day[1], 1, 12),  part(day[2], 1, 31),
-          part(hour[0], 0, 23),     part(hour[1], 0, 59), part(hour[2], 0, 59)};
-}
-
 Fault ParseFault(const Words& words) {
   if (words.size() != 3) throw CommandError("it goes: fail CALL N CODE, or: fail clear");
   const bool any = text::EqualIgnoringCase(words[0], "any");
   const bool every = text::EqualIgnoringCase(words[1], "every");
   if (any && every) throw CommandError("not every call of any name can fail");
   Fault fault;
-  if (!any) fault.Call = CallNames()[PickName("call", words[0], CallNames())];
+  const std::vector<std::string> calls(memory::CallNames.begin(), memory::CallNames.end());
+  if (!any) fault.Call = calls[PickName("call", words[0], calls)];
   fault.Nth = every ? 0 : static_cast<std::size_t>(ParseNumber(words[1], 1, 1000000, "N"));
   fault.Code = static_cast<std::int32_t>(ParseNumber(words[2], 1, 0x7FFFFFFF, "the code"));
   return fault;
 }
-
-}  // namespace
 
 void Advance(Session& session, const Words& words) {
   session.Advance(static_cast<std::uint64_t>(
@@ -74,9 +34,8 @@ void Advance(Session& session, const Words& words) {
 }
 
 void ShowClock(Session& session, const Words& words) {
-  if (words.size() == 1) throw CommandError("the time goes: 2004-03-15 12:00:00");
-  if (words.size() == 2) SetClock(session.World(), ParseClock(words[0], words[1]));
-  session.Say(ClockText(session.World().clock.LocalNow()));
+  if (!words.empty()) SetClock(session.World(), Joined(words));
+  session.Say(ClockText(session.World()));
 }
 
 void Answer(Session& session, const Words& words) {
@@ -128,5 +87,29 @@ void LoadState(Session& session, const Words& words) {
 void SaveState(Session& session, const Words& words) {
   WriteRealFile(words.front(), StateText(session.World()));
 }
+
+constexpr std::array Table{
+    Command{"advance", "MILLISECONDS", "moves the clock on; timers tick", 1, 1, Advance},
+    Command{"clock", "[YEAR-MONTH-DAY HOUR:MINUTE:SECOND]", "shows or sets the clock", 0, 2,
+            ShowClock},
+    Command{"answer", "[BUTTON ...]",
+            "answers for boxes to come: yes, no, ok, cancel ...; without one, forgets them", 0, 100,
+            Answer},
+    Command{"boxes", "", "lists the message boxes so far, with their answers", 0, 0, ShowBoxes},
+    Command{"processes", "", "lists the copies that run and the programs they started", 0, 0,
+            ShowProcesses},
+    Command{"sounds", "", "lists the sounds that were played", 0, 0, ShowSounds},
+    Command{"trace", "on | off | show",
+            "prints the calls to Windows after each command; or those of the last one", 1, 1,
+            Trace},
+    Command{"fail", "CALL N CODE | clear",
+            "lets the n-th call of a name (or any; or every) fail with an error code", 1, 3, Fail},
+    Command{"state load", "FILE", "replaces the Windows by a saved one", 1, 1, LoadState},
+    Command{"state save", "FILE", "saves clock, registry and files", 1, 1, SaveState},
+};
+
+}  // namespace
+
+std::span<const Command> WorldCommands() { return Table; }
 
 }  // namespace vantrel::console

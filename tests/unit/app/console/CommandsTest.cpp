@@ -32,6 +32,19 @@ TEST(FindCommand, RefusesUnknownOnesAndWrongNumbersOfWords) {
   EXPECT_THROW(FindCommand({"click", "a", "b"}), CommandError);
 }
 
+TEST(Commands, HaveNamesThatAreApart) {
+  for (const Command& command : Commands()) {
+    EXPECT_LE(command.Least, command.Most) << command.Name;
+    // A word is either a command or a family, so that one name never begins another with a blank.
+    for (const Command& other : Commands()) {
+      const std::string name = command.Name;
+      EXPECT_TRUE(&command == &other ||
+                  (name != other.Name && !std::string(other.Name).starts_with(name + ' ')))
+          << name;
+    }
+  }
+}
+
 TEST(HelpText, TellsEveryCommand) {
   for (const Command& command : Commands()) EXPECT_THAT(HelpText({}), HasSubstr(command.Help));
   EXPECT_THAT(HelpText({"files", "put"}), HasSubstr("makes a file of these lines"));

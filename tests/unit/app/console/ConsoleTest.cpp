@@ -5,7 +5,7 @@
 
 #include "app/console/Commands.h"
 #include "app/console/Console.h"
-#include "app/console/StateFile.h"
+#include "app/console/State.h"
 
 namespace vantrel::console {
 namespace {
@@ -26,7 +26,8 @@ TEST(Console, StopsAtTheFirstErrorUnlessToldOtherwise) {
   std::istringstream in("jump\nclock\n");
   std::ostringstream out;
   EXPECT_FALSE(Console(in, out, {}).Run());
-  EXPECT_EQ(out.str(), "error: no command \"jump\"\n");
+  EXPECT_THAT(out.str(), testing::StartsWith("error: no command \"jump\"; there are start, "));
+  EXPECT_THAT(out.str(), Not(HasSubstr("2004")));
   EXPECT_THAT(Output("jump\nclock\n"), HasSubstr("2004-03-15 12:00:00"));
 }
 
@@ -108,8 +109,49 @@ TEST(Console, ShowsAndTracesTheCallsToWindows) {
 TEST(Console, LetsCallsFail) {
   EXPECT_THAT(Output("fail CreateProcessA every 2\nstart\nclick cmdtest\n"),
               Not(HasSubstr("started:")));
-  EXPECT_THAT(Output("fail NoSuchCall 1 5\n"), HasSubstr("error: no call"));
+  EXPECT_THAT(Output("fail FreeLibrary 1 5\nfail CreateThread every 8\n"), "");
+  EXPECT_THAT(Output("fail zzzz 1 5\n"),
+              HasSubstr("error: no call \"zzzz\"; there are RegOpenKeyExA, RegOpenKeyA, "));
   EXPECT_THAT(Output("fail any every 5\n"), HasSubstr("error: "));
+}
+
+TEST(Console, NamesTheChoicesWhereNoneIsNear) {
+  EXPECT_EQ(
+      Output("registry\n"),
+      "error: no registry command \"\"; there are show, set, delete, refuse, load and save\n");
+  EXPECT_EQ(Output("state\n"), "error: no state command \"\"; there are load and save\n");
+  EXPECT_EQ(Output("files put a\nfiles mark a zzzz\n"),
+            "error: no mark \"zzzz\"; there are readonly, writable, locked and free\n");
+}
+
+TEST(Console, SetsAndShowsValuesOfEachType) {
+  EXPECT_EQ(Output("registry set HKCU\\A n string \"two words\"\n"
+                   "registry set HKCU\\A \"\" expand %a%\n"
+                   "registry set HKCU\\A d dword 0x10\n"
+                   "registry set HKCU\\A b binary 0102 ff\n"
+                   "registry set HKCU\\A m multi a b\n"
+                   "registry show HKCU\\A\n"),
+            "[HKEY_CURRENT_USER\\A]\n"
+            "\"n\"=\"two words\"\n"
+            "@=hex(2):25,61,25,00\n"
+            "\"d\"=dword:00000010\n"
+            "\"b\"=hex:01,02,ff\n"
+            "\"m\"=hex(7):61,00,62,00,00\n");
+}
+
+TEST(Console, RefusesValuesThatAreNone) {
+  for (const char* data : {"dword x", "dword 0x100000000", "dword 1 2", "string a b", "binary 1",
+                           "binary 0g", "nothing 1"}) {
+    EXPECT_THAT(Output(std::string("registry set HKCU\\A n ") + data + '\n'), HasSubstr("error: "))
+        << data;
+  }
+  EXPECT_THAT(Output("registry set HKXX\\A n dword 1\n"), HasSubstr("no registry root \"HKXX\""));
+  EXPECT_THAT(Output("registry show HKCU\\None\n"), HasSubstr("no key"));
+  std::string deep = "HKCU";
+  for (int level = 0; level < 20000; ++level) deep += "\\a";
+  EXPECT_THAT(Output("registry set " + deep + " n dword 1\n"), HasSubstr("lies too deep"));
+  EXPECT_THAT(Output("registry set HKCU\\" + std::string(256, 'a') + " n dword 1\n"),
+              HasSubstr("a key's name is too long"));
 }
 
 TEST(Console, ResizesNoSmallerThanTheProgramAllows) {
@@ -120,8 +162,11 @@ TEST(Console, ShowsAndChangesFiles) {
   EXPECT_EQ(Output("files put Settings\\a.txt one \"two words\"\nfiles show Settings\\a.txt\n"),
             "  one\n  two words\n");
   EXPECT_THAT(Output("files put C:\\WINDOWS x\n"), HasSubstr("is a folder"));
-  EXPECT_THAT(Output("files put C:\\a x\nfiles put C:\\a\\b x\n"), HasSubstr("is a file"));
+  EXPECT_THAT(Output("files put C:\\a x\nfiles put C:\\a\\b x\n"), HasSubstr("it has no folder"));
   EXPECT_THAT(Output("files put D:\\a x\nfiles put C: x\nfiles put C:a x\n"), HasSubstr("error: "));
+  EXPECT_THAT(Output("files put a x\nfiles mark a readonly\nfiles put a y\n"),
+              HasSubstr("it is read-only"));
+  EXPECT_THAT(Output("files delete C:\\\n"), HasSubstr("error: no file"));
   EXPECT_THAT(Output("files delete C:\\WINDOWS\nfiles list C:\\WINDOWS\n"), HasSubstr("no folder"));
 }
 
@@ -130,7 +175,7 @@ TEST(Console, SavesAndLoadsRegistrationFiles) {
   Output("registry set HKCU\\A n string \"two words\"\nregistry save " + file + " HKCU\\A\n");
   EXPECT_THAT(ReadRealFile(file), testing::StartsWith("REGEDIT4"));
   EXPECT_THAT(Output("registry load " + file + "\nregistry show HKCU\\A\n"),
-              HasSubstr("n = string \"two words"));
+              HasSubstr("\"n\"=\"two words\"\n"));
   WriteRealFile(file, "[HKEY_CURRENT_USER\\A]\n");
   EXPECT_THAT(Output("registry load " + file + "\n"), HasSubstr("is no registration file"));
 }
@@ -139,6 +184,8 @@ TEST(Console, SetsTheClock) {
   EXPECT_EQ(Output("clock 2005-12-31 23:59:58\nadvance 2000\nclock\n"),
             "2005-12-31 23:59:58\n2006-01-01 00:00:00\n");
   EXPECT_THAT(Output("clock 2005-02-30 0:0:0\n"), HasSubstr("no such day"));
+  EXPECT_THAT(Output("clock 2005-02-03 24:0:0\n"), HasSubstr("no such time"));
+  EXPECT_THAT(Output("clock 2005-02-03\n"), HasSubstr("the time goes: 2004-03-15 12:00:00"));
 }
 
 TEST(Console, KeepsTheStateWithoutWindows) {

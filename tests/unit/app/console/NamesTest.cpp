@@ -33,7 +33,7 @@ TEST(PickName, NamesAllThatABeginningFits) {
 
 TEST(PickName, NamesTheNearest) {
   EXPECT_EQ(Refusal("peer"), "no fruit \"peer\"; did you mean pear?");
-  EXPECT_EQ(Refusal("zzzzzz"), "no fruit \"zzzzzz\"");
+  EXPECT_EQ(Refusal("zzzzzz"), "no fruit \"zzzzzz\"; there are apple, apricot, pear and app");
   EXPECT_NE(Refusal(""), "");
 }
 
@@ -45,6 +45,18 @@ TEST(EditDistance, CountsSingleChanges) {
 
 TEST(EditDistance, IsQuickForAnyLength) {
   EXPECT_GT(EditDistance(std::string(1000000, 'a'), std::string(1000000, 'b')), 0U);
+}
+
+TEST(Nearest, TakesNoLongNameForNearByItsLengthAlone) {
+  const std::string caption(130, 'a');
+  EXPECT_THAT(Nearest("cmdstart", {caption}), IsEmpty());
+  EXPECT_THAT(Nearest(std::string(130, 'b'), {caption, "pear"}), IsEmpty());
+}
+
+TEST(Suggestion, NamesAllOnlyWhereTheyAreFew) {
+  EXPECT_EQ(Suggestion("x", {}), "");
+  EXPECT_EQ(Suggestion("x", {"one", "two"}), "; there are one and two");
+  EXPECT_EQ(Suggestion("x", std::vector<std::string>(101, "pear")), "");
 }
 
 TEST(Nearest, TellsEachNameOnce) {
