@@ -84,5 +84,23 @@ function(vantrel_test_program name)
   add_executable(${name} ${PROGRAM_SOURCES})
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} test-support GTest::gmock
                                         vantrel-warnings)
+  vantrel_compile_quickly(${name})
   add_test(NAME ${name} COMMAND ${name})
+endfunction()
+
+# vantrel_compile_quickly(<test program>): its sources run once, so that compiling them is what costs:
+# without optimizing, and with the headers of GoogleTest, two thirds of a short test's time, compiled
+# once. Clang compiles them each time: its precompiled headers are tied to one build folder, and a
+# build without them sees a missing #include.
+function(vantrel_compile_quickly name)
+  target_compile_options(${name} PRIVATE -O0)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    return()
+  endif()
+  if(name STREQUAL "test-support")
+    target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <algorithm> <functional> <map>
+                                              <optional> <string> <vector>)
+  else()
+    target_precompile_headers(${name} REUSE_FROM test-support)
+  endif()
 endfunction()
