@@ -1,14 +1,13 @@
 #include "allowlist/Attach.h"
 
-#include "program/PanelHosting.h"
+#include "allowlist/AllowListPanel.h"
 #include "windows/FrmFrameAllowList.h"
 
 namespace vantrel::allowlist {
 
 void AttachAllowList(program::Program& program) {
-  program.windows.FrmFrameAllowList.OnMade([&program](windows::FrmFrameAllowList& panel) {
-    panel.Load = [&program, &panel] { program::HostPanel(program, panel); };
-  });
+  program.windows.FrmFrameAllowList.OnMade(
+      [&program](windows::FrmFrameAllowList& panel) { Attach(program, panel); });
 }
 
 }  // namespace vantrel::allowlist

@@ -48,6 +48,15 @@ class Program {
   std::string SearchCaption;
   bool WindowFound = false;
   platform::WindowHandle FoundWindow = 0;
+  // What the last search for a site in the allow list found: whether it is there, its name as it
+  // stands there, and the kinds that are let through on it.
+  bool SiteFound = false;
+  std::string SiteName;
+  bool SitePopup = false;
+  bool SiteDHTML = false;
+  bool SiteWebDialog = false;
+  bool SiteBanner = false;
+  bool SiteFlash = false;
   // A window procedure; never assigned, so it stays 0.
   std::int32_t OldWindowProc = 0;
 

@@ -1,5 +1,6 @@
 #include "shell/Navigation.h"
 
+#include "allowlist/SiteList.h"
 #include "blocking/BlockingState.h"
 #include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
@@ -195,7 +196,12 @@ void CaseClean(Program& program) {
   program.windows.FrmFrameHistory->lblcleaningstatus.SetCaption("Ready to clean");
 }
 
-void CaseAllow(Program& program) { ShowPanel(program, program.windows.FrmFrameAllowList); }
+void CaseAllow(Program& program) {
+  HideHelpFrame(program);
+  allowlist::LoadAllowList(program, allowlist::LoadFailure::ShowsBox);
+  program.windows.FrmFrameAllowList.Touch().Show();
+  program.DoEvents();
+}
 void CaseNotify(Program& program) { ShowPanel(program, program.windows.FrmFrameNotification); }
 void CaseIESettings(Program& program) { ShowPanel(program, program.windows.FrmFrameIESettings); }
 void CaseIEPlugins(Program& program) { ShowPanel(program, program.windows.FrmFrameIEPlugin); }

@@ -11,6 +11,8 @@ namespace vantrel::text {
 
 // The text without the blanks (code 32 only) at both ends.
 std::string Trim(std::string_view text);
+// The same as a part of the text.
+std::string_view Trimmed(std::string_view text);
 
 // The text with the ASCII letters in lower, or upper, case.
 std::string LowerCase(std::string_view text);
