@@ -1,9 +1,11 @@
 #include "forms/ListView.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/ControlVisitor.h"
 #include "forms/Form.h"
+#include "text/Strings.h"
 
 namespace vantrel::forms {
 
@@ -129,6 +131,16 @@ void ListView::SetDropHighlight(int index) {
   if (dropHighlight_ == index) return;
   dropHighlight_ = index;
   Changed(Aspect::Selection);
+}
+
+int ListView::FindPrefix(std::string_view letters, int from) const {
+  const int count = Count();
+  for (int step = 0; step < count; ++step) {
+    const int index = (std::max(from, 1) - 1 + step) % count + 1;
+    const std::string_view text = Item(index).Text();
+    if (text::EqualIgnoringCase(text.substr(0, letters.size()), letters)) return index;
+  }
+  return 0;
 }
 
 void ListView::UserSelects(int index) {

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -99,6 +100,10 @@ class ListView : public Control {
   // The row highlighted as a drop target, 0 for none.
   int DropHighlight() const { return dropHighlight_; }
   void SetDropHighlight(int index);
+
+  // The 1-based row whose text begins with the letters, whatever their case: the first from `from`
+  // on, with the rows before it behind the last; 0 if there is none.
+  int FindPrefix(std::string_view letters, int from) const;
 
   // The user clicks a row (Click follows), or its check box.
   void UserSelects(int index);

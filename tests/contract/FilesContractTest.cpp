@@ -196,7 +196,7 @@ TEST_P(FilesContract, FileOpenElsewhereAndSharedIsReadReplacedAndExtended) {
 TEST_P(FilesContract, ReadOnlyFileIsReadAndNeitherReplacedNorExtended) {
   const std::string path = folder_ + "\\kept.txt";
   subject_->PutFile(path, "before");
-  subject_->ProtectFromWriting(path);
+  if (!subject_->ProtectFromWriting(path)) GTEST_SKIP() << "this user may write read-only files";
   std::string content;
   EXPECT_EQ(files_.ReadTextFile(path, content), ErrorSuccess);
   EXPECT_EQ(content, "before");

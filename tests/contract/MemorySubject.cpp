@@ -31,8 +31,9 @@ class MemorySubject : public Subject {
   }
   void Hide(const std::string& path) override { world_.files.SetHidden(path, true); }
   bool IsHidden(const std::string& path) override { return world_.files.IsHidden(path); }
-  void ProtectFromWriting(const std::string& path) override {
+  bool ProtectFromWriting(const std::string& path) override {
     world_.files.SetReadOnly(path, true);
+    return true;
   }
   // Files that others have open and share are as those that nobody has open.
   void OpenShared(const std::string&) override {}

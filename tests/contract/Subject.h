@@ -32,7 +32,9 @@ class Subject {
   virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
   virtual void Hide(const std::string& path) = 0;
   virtual bool IsHidden(const std::string& path) = 0;
-  virtual void ProtectFromWriting(const std::string& path) = 0;
+  // Makes the file read-only. False where the system lets this user write all the same, as Wine
+  // does for root.
+  virtual bool ProtectFromWriting(const std::string& path) = 0;
   // Opens the file for reading and writing, shared with readers and writers, until the subject
   // dies.
   virtual void OpenShared(const std::string& path) = 0;

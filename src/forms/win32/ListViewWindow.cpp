@@ -25,6 +25,16 @@ int ColumnFormat(Align alignment) {
   }
 }
 
+// The text in the system code page.
+std::string Narrow(const wchar_t* text) {
+  if (text == nullptr) return "";
+  const int size = WideCharToMultiByte(CP_ACP, 0, text, -1, nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<std::size_t>(std::max(size, 1)), '\0');
+  WideCharToMultiByte(CP_ACP, 0, text, -1, narrow.data(), size, nullptr, nullptr);
+  narrow.pop_back();
+  return narrow;
+}
+
 // Messages that are answered from rows: what was gathered is shown first.
 bool LooksAtRows(UINT message) {
   return message == WM_PAINT || (message >= LVM_FIRST && message < LVM_FIRST + 0x100);
@@ -216,6 +226,14 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
       return 0;
     case NM_CUSTOMDRAW:
       return Draw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+    case LVN_ODFINDITEMA: {
+      const auto& search = reinterpret_cast<const NMLVFINDITEMA&>(header);
+      return RowOf(search.lvfi.psz, search.iStart);
+    }
+    case LVN_ODFINDITEMW: {
+      const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(header);
+      return RowOf(Narrow(search.lvfi.psz).c_str(), search.iStart);
+    }
     case LVN_GETINFOTIPA: {
       auto& tip = reinterpret_cast<NMLVGETINFOTIPA&>(header);
       if (tip.iItem < 0 || tip.iItem >= list_.Count() || tip.cchTextMax <= 0) return 0;
@@ -226,6 +244,11 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
     default:
       return 0;
   }
+}
+
+// Where the letters that the user types lead; the list selects that row itself.
+int ListViewWindow::RowOf(const char* letters, int start) const {
+  return letters == nullptr ? -1 : list_.FindPrefix(letters, start + 1) - 1;
 }
 
 void ListViewWindow::SelectionMoved(const NMLISTVIEW& change) {

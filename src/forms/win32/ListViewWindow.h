@@ -39,6 +39,7 @@ class ListViewWindow final : public ControlWindow {
   std::string TextAt(int row, int column) const;
   int ImageAt(int row) const;
   void FillItem(LVITEMA& wanted);
+  int RowOf(const char* letters, int start) const;
   void SelectionMoved(const NMLISTVIEW& change);
   void Clicked(const NMITEMACTIVATE& click);
   LRESULT Draw(NMLVCUSTOMDRAW& draw) const;

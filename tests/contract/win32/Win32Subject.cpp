@@ -90,8 +90,11 @@ class Win32Subject : public Subject {
   bool IsHidden(const std::string& path) override {
     return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0;
   }
-  void ProtectFromWriting(const std::string& path) override {
+  bool ProtectFromWriting(const std::string& path) override {
     SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    return !win32::FileHandle(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                          OPEN_EXISTING, 0, nullptr))
+                .Valid();
   }
   void OpenShared(const std::string& path) override {
     shared_.Reset(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,

@@ -7,6 +7,7 @@
 
 #include "Copy.h"
 #include "Inside.h"
+#include "support/Folders.h"
 #include "support/RegistryView.h"
 #include "support/Running.h"
 #include "support/Wait.h"
@@ -38,6 +39,34 @@ class SampleCounts {
   static void Put(const char* name, std::uint32_t count) {
     Write(HKEY_CURRENT_USER, BlockLogKey, name, Dword(count));
   }
+};
+
+// Sites worth a picture, for as long as the pictures are taken.
+class SampleSites {
+ public:
+  SampleSites() : kept_(ReadFileBytes(Path())) {
+    WriteFileBytes(Path(), Line(1, "10000", "www.mybank.example") +
+                               Line(2, "11111", "intranet.mycompany.example") +
+                               Line(2, "10110", "www.dailynews.example") +
+                               Line(3, "00001", "games.example") +
+                               Line(3, "10100", "webmail.provider.example"));
+  }
+  ~SampleSites() { WriteFileBytes(Path(), kept_); }
+  SampleSites(const SampleSites&) = delete;
+  SampleSites& operator=(const SampleSites&) = delete;
+
+ private:
+  static std::string Path() {
+    const std::string program = ExecutablePath();
+    return program.substr(0, program.rfind('\\')) + "\\Settings\\AllowList.txt";
+  }
+  static std::string Line(int number, const std::string& flags, const std::string& name) {
+    return "id =" + std::to_string(number) + ", Popup= " + flags[0] + " ,DHTML = " + flags[1] +
+           ", WebDialog =" + flags[2] + " ,Banner = " + flags[3] + ", Flash = " + flags[4] + " , " +
+           name + "\r\n";
+  }
+
+  const std::string kept_;
 };
 
 // Ends the copy as its menu does and starts it anew; the chart is drawn at the start alone.
@@ -168,6 +197,7 @@ void ShootInverted(const Copy& copy, HWND main) {
 int TakeAll() {
   SeeRealPixels();
   const SampleCounts counts;
+  const SampleSites sites;
   const Copy copy(StartAnew(RunningProcess()));
   HWND main = copy.Find("frmMain");
   if (main == nullptr) {

@@ -105,7 +105,10 @@ SiteRecord RecordOf(const test::plain::Site& site) {
 
 class Reference : public test::ComponentFixture, public testing::WithParamInterface<unsigned> {
  protected:
-  Reference() { AttachAllowList(program); }
+  Reference() {
+    AttachAllowList(program);
+    test::FillMachine(other_);
+  }
 
   // The same file on both machines, and what its disk refuses.
   void Prepare(Random& random) {

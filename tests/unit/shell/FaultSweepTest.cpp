@@ -6,7 +6,9 @@
 #include <optional>
 #include <utility>
 
+#include "shell/Navigation.h"
 #include "unit/shell/Machine.h"
+#include "windows/FrmFrameAllowList.h"
 #include "windows/FrmFrameHistory.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameSettings.h"
@@ -253,6 +255,68 @@ TEST(FaultSweep, TheCloseBoxForGoodAndToTheTray) {
         machine.ExpectUsable();
       },
       3);
+}
+
+constexpr const char* SitesFile = "C:\\Program Files\\Vantrel\\Settings\\AllowList.txt";
+
+std::string SiteLine(int number, const std::string& name) {
+  return "id =" + std::to_string(number) +
+         ", Popup= 1 ,DHTML = 1, WebDialog =1 ,Banner = 1, Flash = 1 , " + name + "\r\n";
+}
+
+// The panel with three sites, the second selected and typed over; every question is answered Yes.
+void OpenSites(Machine& machine) {
+  machine.MakeStarted();
+  machine.copy->process.AnswerBox = [](const platform::memory::Box& box) {
+    return (box.style & 0xF) == 0 ? platform::AnswerOk : platform::AnswerYes;
+  };
+  machine.world.files.Put(SitesFile, SiteLine(1, "a") + SiteLine(2, "b") + SiteLine(2, "c"));
+  CaseAllow(machine.copy->program);
+  auto& panel = *machine.copy->Windows().FrmFrameAllowList;
+  EXPECT_TRUE(machine.copy->user.Click(panel.lstGroup, 2));
+  EXPECT_TRUE(machine.copy->user.Type(panel.txtName, "d"));
+}
+
+// After each act the panel goes on: a site that is added then stands in file and list.
+void ExpectSitesUsable(Machine& machine) {
+  machine.copy->process.Faults().Clear();
+  auto& panel = *machine.copy->Windows().FrmFrameAllowList;
+  EXPECT_TRUE(machine.copy->user.Type(panel.txtName, "new"));
+  EXPECT_TRUE(machine.copy->user.Click(panel.cmdAddWebsite));
+  EXPECT_EQ(panel.lblstatus.Caption(), "Added Successfully");
+  EXPECT_EQ(panel.lstGroup.Item(panel.lstGroup.Count()).Text(), "new");
+  EXPECT_THAT(machine.world.files.Read(SitesFile).value_or(""), testing::HasSubstr(" , new\r\n"));
+}
+
+TEST(FaultSweep, AddEditAndDeleteASite) {
+  using Panel = windows::FrmFrameAllowList;
+  for (forms::CommandButton Panel::*button :
+       {&Panel::cmdAddWebsite, &Panel::cmdEditAllowed, &Panel::cmdRemove}) {
+    Sweep(
+        OpenSites,
+        [button](Machine& machine) {
+          auto& panel = *machine.copy->Windows().FrmFrameAllowList;
+          EXPECT_TRUE(machine.copy->user.Click(panel.*button));
+        },
+        [](Machine& machine) {
+          // A failure of the file shows in no box.
+          EXPECT_THAT(machine.BoxTexts(*machine.copy),
+                      Each("Delete the Website [b] from the allowed list"));
+          EXPECT_TRUE(machine.copy->Windows().FrmFrameAllowList->Visible());
+          ExpectSitesUsable(machine);
+        },
+        2);
+  }
+}
+
+TEST(FaultSweep, OpeningTheAllowedList) {
+  Sweep(
+      OpenSites, [](Machine& machine) { CaseAllow(machine.copy->program); },
+      [](Machine& machine) {
+        EXPECT_TRUE(machine.copy->Windows().FrmFrameAllowList->Visible());
+        ExpectSitesUsable(machine);
+      },
+      2);
 }
 
 }  // namespace
