@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "native/AllowList.h"
 #include "native/Machine.h"
 #include "settings/bmdlReg.h"
 #include "statistics/RefreshCounters.h"
@@ -215,6 +216,7 @@ void RegisterAll() {
       ->Unit(benchmark::kMillisecond);
   benchmark::RegisterBenchmark("List10000", FillList)->Unit(benchmark::kMillisecond);
   benchmark::RegisterBenchmark("List10000/plain", FillListPlain)->Unit(benchmark::kMillisecond);
+  RegisterAllowList();
   benchmark::RegisterBenchmark("Start", StartProgram)->Unit(benchmark::kMillisecond);
 }
 

@@ -108,6 +108,7 @@ class Reference : public test::ComponentFixture, public testing::WithParamInterf
   Reference() {
     AttachAllowList(program);
     test::FillMachine(other_);
+    process.Trace().Stop();
   }
 
   // The same file on both machines, and what its disk refuses.

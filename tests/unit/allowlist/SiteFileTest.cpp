@@ -59,7 +59,8 @@ TEST_F(SiteFile, EachFlagHasItsPlace) {
   for (std::size_t flag = 0; flag < SiteFlags.size(); ++flag) {
     SiteRecord site = Named("x");
     site.*SiteFlags[flag] = 1;
-    const SiteFields fields(RecordLine(site));
+    const std::string line = RecordLine(site);
+    const SiteFields fields(line);
     for (std::size_t field = 1; field <= SiteFlags.size(); ++field) {
       EXPECT_EQ(ValueOf(fields.Fields[field]), field == flag + 1 ? "1" : "0");
     }

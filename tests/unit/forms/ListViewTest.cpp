@@ -36,6 +36,19 @@ TEST_F(Lists, AKeyStandsOnce) {
   EXPECT_EQ(nullptr, list.Find("B2"));
 }
 
+TEST_F(Lists, LettersFindARowFromAPlaceOnAndAroundTheEnd) {
+  for (const char* text : {"alpha", "Beta", "alps", ""}) list.Add("", text, "");
+  EXPECT_EQ(list.FindPrefix("al", 1), 1);
+  EXPECT_EQ(list.FindPrefix("AL", 2), 3);
+  EXPECT_EQ(list.FindPrefix("al", 4), 1);
+  EXPECT_EQ(list.FindPrefix("b", 3), 2);
+  EXPECT_EQ(list.FindPrefix("beta", -1), 2);
+  EXPECT_EQ(list.FindPrefix("alpha1", 1), 0);
+  EXPECT_EQ(list.FindPrefix("c", 9), 0);
+  list.Clear();
+  EXPECT_EQ(list.FindPrefix("a", 1), 0);
+}
+
 TEST_F(Lists, TheEmptyKeyIsNoKey) {
   list.Add("", "one", "");
   list.Add("", "two", "");
