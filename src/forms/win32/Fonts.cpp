@@ -14,7 +14,7 @@ HFONT Fonts::Of(const Font& font) {
   const std::string name = *font.Name != '\0' ? font.Name : DialogFont;
   const int height = static_cast<int>(std::lround(font.Size * scale_.Dpi() / PointsPerInch));
   FontHandle& made = fonts_[Key(name, height, font.Bold, font.Underline)];
-  if (!made) {
+  if (!made.Valid()) {
     made = FontHandle(CreateFontA(-height, 0, 0, 0, font.Bold ? FW_BOLD : FW_NORMAL, FALSE,
                                   font.Underline, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                                   CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,

@@ -5,53 +5,27 @@
 
 #include <windows.h>
 
-#include <utility>
+#include "text/Owned.h"
 
 namespace vantrel::forms::win32 {
 
-template <class Handle, class Closer>
-class Owned {
- public:
-  Owned() = default;
-  explicit Owned(Handle handle) : handle_(handle) {}
-  Owned(Owned&& other) noexcept : handle_(std::exchange(other.handle_, Handle{})) {}
-  Owned& operator=(Owned&& other) noexcept {
-    if (this != &other) {
-      Close();
-      handle_ = std::exchange(other.handle_, Handle{});
-    }
-    return *this;
-  }
-  ~Owned() { Close(); }
-
-  Handle Get() const { return handle_; }
-  explicit operator bool() const { return handle_ != Handle{}; }
-
- private:
-  void Close() {
-    if (handle_ != Handle{}) Closer{}(handle_);
-  }
-
-  Handle handle_{};
+// A kind whose handles `Closer` frees, and whose null is none.
+template <class Handle, auto Closer>
+struct HandleTraits {
+  using Type = Handle;
+  static Type Invalid() { return nullptr; }
+  static void Close(Type handle) { Closer(handle); }
 };
+template <class Handle, auto Closer>
+using Owned = text::Owned<HandleTraits<Handle, Closer>>;
 
-struct DeleteGdiObject {
-  void operator()(HGDIOBJ object) const { DeleteObject(object); }
-};
-struct DeleteContext {
-  void operator()(HDC context) const { DeleteDC(context); }
-};
-struct DestroyMenuHandle {
-  void operator()(HMENU menu) const { DestroyMenu(menu); }
-};
-
-using Brush = Owned<HBRUSH, DeleteGdiObject>;
-using Pen = Owned<HPEN, DeleteGdiObject>;
-using FontHandle = Owned<HFONT, DeleteGdiObject>;
-using Bitmap = Owned<HBITMAP, DeleteGdiObject>;
-using Region = Owned<HRGN, DeleteGdiObject>;
-using MemoryContext = Owned<HDC, DeleteContext>;
-using MenuHandle = Owned<HMENU, DestroyMenuHandle>;
+using Brush = Owned<HBRUSH, DeleteObject>;
+using Pen = Owned<HPEN, DeleteObject>;
+using FontHandle = Owned<HFONT, DeleteObject>;
+using Bitmap = Owned<HBITMAP, DeleteObject>;
+using Region = Owned<HRGN, DeleteObject>;
+using MemoryContext = Owned<HDC, DeleteDC>;
+using MenuHandle = Owned<HMENU, DestroyMenu>;
 
 // The drawing context of a window's inside, or of the window with its frame; of the whole screen
 // for nullptr.

@@ -96,7 +96,7 @@ void ImageStrips::Draw(HDC context, const RECT& area, const std::string& list, i
   const ImageStrip* row = Find(list);
   if (row == nullptr || number < 1 || number > row->Count) return;
   const Strip& strip = Unpacked(*row);
-  if (!strip.Pixels) return;
+  if (!strip.Pixels.Valid()) return;
   const MemoryContext source(CreateCompatibleDC(context));
   const Selection withStrip(source.Get(), strip.Pixels.Get());
   const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
@@ -108,7 +108,7 @@ HIMAGELIST ImageStrips::ImagesFor(const std::string& list) {
   const ImageStrip* row = Find(list);
   if (row == nullptr) return nullptr;
   ImagesHandle& images = images_[list];
-  if (images) return images.Get();
+  if (images.Valid()) return images.Get();
   const SIZE size = SizeOf(list);
   images = ImagesHandle(ImageList_Create(size.cx, size.cy, ILC_COLOR32 | ILC_MASK, row->Count, 0));
   for (int number = 1; number <= row->Count; ++number) {

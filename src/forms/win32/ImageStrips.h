@@ -16,10 +16,7 @@
 
 namespace vantrel::forms::win32 {
 
-struct DestroyImages {
-  void operator()(HIMAGELIST list) const { ImageList_Destroy(list); }
-};
-using ImagesHandle = Owned<HIMAGELIST, DestroyImages>;
+using ImagesHandle = Owned<HIMAGELIST, ImageList_Destroy>;
 
 class ImageStrips {
  public:
