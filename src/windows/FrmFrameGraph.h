@@ -35,36 +35,36 @@ class FrmFrameGraph : public forms::Form {
                         .Alignment = forms::Align::Right}};
   forms::Chart MSChart1{Graphs,
                         "MSChart1",
-                        {.Caption = "Blocked ads by kind", .At = Grid(14, 40, 250, 236)},
+                        {.Caption = "Blocked ads by kind", .At = Grid(14, 40, 316, 196)},
                         "R1",
                         {{"System", forms::palette::Popups, ""},
                          {"GDI", forms::palette::Dhtml, ""},
                          {"User", forms::palette::Dialogs, ""},
                          {"C4", forms::palette::Banners, ""},
                          {"C5", forms::palette::Flash, ""}}};
-  // Each box follows its label, which names it.
+  // Each name stands under its box, but comes before it: a box is named by the label before it.
   forms::Label Label1_1{
-      Graphs, "Label1", {.Caption = "Popups", .At = Grid(352, 43, 72, 15), .Index = 1}};
+      Graphs, "Label1", {.Caption = "Popups", .At = Grid(346, 61, 78, 15), .Index = 1}};
   forms::TextBox txtPop{
-      Graphs, "txtPop", {.Caption = "59", .At = Grid(280, 40, 62, 20)}, {.ReadOnly = true}};
+      Graphs, "txtPop", {.Caption = "59", .At = Grid(346, 40, 78, 20)}, {.ReadOnly = true}};
   forms::Label Label1_2{
-      Graphs, "Label1", {.Caption = "DHTML", .At = Grid(352, 79, 72, 15), .Index = 2}};
+      Graphs, "Label1", {.Caption = "DHTML", .At = Grid(346, 101, 78, 15), .Index = 2}};
   forms::TextBox txtDHTML{
-      Graphs, "txtDHTML", {.Caption = "45", .At = Grid(280, 76, 62, 20)}, {.ReadOnly = true}};
+      Graphs, "txtDHTML", {.Caption = "45", .At = Grid(346, 80, 78, 20)}, {.ReadOnly = true}};
   forms::Label Label1_3{
-      Graphs, "Label1", {.Caption = "Dialogs", .At = Grid(352, 115, 72, 15), .Index = 3}};
+      Graphs, "Label1", {.Caption = "Dialogs", .At = Grid(346, 141, 78, 15), .Index = 3}};
   forms::TextBox txtWebD{
-      Graphs, "txtWebD", {.Caption = "25", .At = Grid(280, 112, 62, 20)}, {.ReadOnly = true}};
+      Graphs, "txtWebD", {.Caption = "25", .At = Grid(346, 120, 78, 20)}, {.ReadOnly = true}};
   forms::Label Label1_4{
-      Graphs, "Label1", {.Caption = "Banners", .At = Grid(352, 151, 72, 15), .Index = 4}};
+      Graphs, "Label1", {.Caption = "Banners", .At = Grid(346, 181, 78, 15), .Index = 4}};
   forms::TextBox txtBanner{
-      Graphs, "txtBanner", {.Caption = "66", .At = Grid(280, 148, 62, 20)}, {.ReadOnly = true}};
+      Graphs, "txtBanner", {.Caption = "66", .At = Grid(346, 160, 78, 20)}, {.ReadOnly = true}};
   forms::Label Label1_5{
-      Graphs, "Label1", {.Caption = "Flash", .At = Grid(352, 187, 72, 15), .Index = 5}};
+      Graphs, "Label1", {.Caption = "Flash", .At = Grid(346, 221, 78, 15), .Index = 5}};
   forms::TextBox txtFlash{
-      Graphs, "txtFlash", {.Caption = "90", .At = Grid(280, 184, 62, 20)}, {.ReadOnly = true}};
+      Graphs, "txtFlash", {.Caption = "90", .At = Grid(346, 200, 78, 20)}, {.ReadOnly = true}};
   forms::Label lbltotallog{
-      Graphs, "lbltotallog", {.Caption = "Total:", .At = Grid(280, 224, 150, 15)}};
+      Graphs, "lbltotallog", {.Caption = "Total:", .At = Grid(14, 257, 270, 15)}};
   forms::CommandButton Command12{
       Graphs,
       "Command12",

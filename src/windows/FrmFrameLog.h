@@ -43,12 +43,10 @@ class FrmFrameLog : public forms::Form {
                             .At = Grid(14, 226, 80, 15),
                             .ToolTipText = "Reset all Logs",
                             .Drawn = forms::Look::Link}};
-  forms::Label Label54{Frame14,
-                       "Label54",
-                       {.Caption = "View Log",
-                        .At = Grid(104, 226, 80, 15),
-                        .ToolTipText = "Open the log file",
-                        .Drawn = forms::Look::Link}};
+  forms::Label Label54{
+      Frame14,
+      "Label54",
+      {.Caption = "View Log", .At = Grid(104, 226, 80, 15), .Drawn = forms::Look::Link}};
   forms::CommandButton Command11{Frame14,
                                  "Command11",
                                  {.Caption = " Graphical View >>",

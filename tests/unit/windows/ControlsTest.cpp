@@ -341,7 +341,7 @@ TEST_F(DesignedControls, OfTheDetailLogPanel) {
                   {"Label1", "label", "The number of Popups and Advertisements blocked"},
                   {"lstLog", "list", Any},
                   {"lblResetLog", "link", "Reset Log", "Reset all Logs"},
-                  {"Label54", "link", "View Log"},
+                  {"Label54", "link", "View Log", ""},
                   {"Command11", "button", " Graphical View >>", "Graphical view"},
                   {"Label46", "link", "Help", "Help on Detail Logs"}});
 }
