@@ -1,6 +1,7 @@
 #include "forms/win32/ListViewWindow.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "forms/win32/CheckMarks.h"
@@ -10,7 +11,6 @@ namespace vantrel::forms::win32 {
 namespace {
 
 constexpr UINT ShowGathered = WM_APP + 1;
-constexpr std::size_t MostRowsKept = 1000;
 constexpr unsigned StateShift = 12;
 constexpr int HeaderMargin = 6;  // pixels at 96 dots per inch
 
@@ -153,10 +153,8 @@ void ListViewWindow::ShowRows() {
   const auto top = static_cast<int>(Tell(LVM_GETTOPINDEX));
   const auto page = static_cast<int>(Tell(LVM_GETCOUNTPERPAGE));
   const int behind = std::min(count, top + page + 1);
-  for (int row = top; row < behind; ++row) {
-    const auto known = shown_.find(row);
-    if (known != shown_.end() && known->second == RowAsShown(row)) continue;
-    Tell(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+  if (const std::size_t shown = Fingerprint(top, behind); std::exchange(shown_, shown) != shown) {
+    Tell(LVM_REDRAWITEMS, static_cast<WPARAM>(top), behind - 1);
   }
   ShowSelection();
 }
@@ -187,23 +185,26 @@ int ListViewWindow::ImageAt(int row) const {
   return number > 0 ? number - 1 : I_IMAGENONE;
 }
 
-std::string ListViewWindow::RowAsShown(int row) const {
-  if (row >= list_.Count()) return "";
-  const ListItem& item = list_.Item(row + 1);
-  std::string shown = item.Checked() ? "x" : "-";
-  shown += list_.DropHighlight() == row + 1 ? "x" : "-";
-  shown += item.Icon();
-  for (int column = 0; column <= item.SubItemCount(); ++column) {
-    shown += '\0';
-    shown += TextAt(row, column);
+// Of what the rows from `top` to before `behind` look like: rows that are built anew with the same
+// texts are not painted again.
+std::size_t ListViewWindow::Fingerprint(int top, int behind) const {
+  std::string look;
+  for (int row = top; row < behind; ++row) {
+    const ListItem& item = list_.Item(row + 1);
+    look += item.Checked() ? 'x' : '-';
+    look += list_.DropHighlight() == row + 1 ? 'x' : '-';
+    look += item.Icon();
+    for (int column = 0; column <= item.SubItemCount(); ++column) {
+      look += '\0';
+      look += TextAt(row, column);
+    }
+    look += '\n';
   }
-  return shown;
+  return std::hash<std::string>{}(look);
 }
 
 void ListViewWindow::FillItem(LVITEMA& wanted) {
   const int row = wanted.iItem;
-  if (shown_.size() >= MostRowsKept) shown_.clear();
-  shown_[row] = RowAsShown(row);
   if ((wanted.mask & LVIF_TEXT) != 0 && wanted.pszText != nullptr && wanted.cchTextMax > 0) {
     lstrcpynA(wanted.pszText, TextAt(row, wanted.iSubItem).c_str(), wanted.cchTextMax);
   }

@@ -1,5 +1,5 @@
-// A list with columns, which asks its model for the rows that it shows. Changes of rows are
-// gathered and shown together, and only those rows are painted whose texts are not the same.
+// A list with columns, which asks its model for the rows that it shows and keeps none. Changes of
+// rows are gathered and shown together, and painted only if they make a difference to what shows.
 #ifndef VANTREL_FORMS_WIN32_LISTVIEWWINDOW_H_
 #define VANTREL_FORMS_WIN32_LISTVIEWWINDOW_H_
 
@@ -9,7 +9,6 @@
 #include <commctrl.h>
 
 #include <string>
-#include <unordered_map>
 
 #include "forms/ListView.h"
 #include "forms/win32/ControlWindow.h"
@@ -35,7 +34,7 @@ class ListViewWindow final : public ControlWindow {
   void ShowRows();
   void ShowSelection();
   void ShowColors();
-  std::string RowAsShown(int row) const;
+  std::size_t Fingerprint(int top, int behind) const;
   std::string TextAt(int row, int column) const;
   int ImageAt(int row) const;
   void FillItem(LVITEMA& wanted);
@@ -52,8 +51,7 @@ class ListViewWindow final : public ControlWindow {
 
   ListView& list_;
   ImagesHandle checkMarks_;
-  // The rows that were asked for since they last changed, 0-based.
-  std::unordered_map<int, std::string> shown_;
+  std::size_t shown_ = 0;  // the fingerprint of the rows that show
   int told_ = 0;  // the row that the last change of selection was raised for, until the click
   bool gathering_ = false;
 };
