@@ -19,6 +19,7 @@ Control::Control(const Parent& parent, std::string name, const Design& design)
       font_(design.TextFont),
       drawn_(design.Drawn),
       alignment_(design.Alignment),
+      anchors_(design.Anchored),
       visible_(design.Visible),
       enabled_(design.Enabled) {
   form_.controls_.push_back(this);

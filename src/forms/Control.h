@@ -79,6 +79,7 @@ class Control {
   void SetTag(const std::string& tag) { tag_ = tag; }
 
   Look Drawn() const { return drawn_; }
+  const Anchors& Anchored() const { return anchors_; }
   Align Alignment() const { return alignment_; }
   void SetAlignment(Align alignment);
 
@@ -130,6 +131,7 @@ class Control {
   Color foreColor_ = palette::WindowText;
   Look drawn_;
   Align alignment_;
+  Anchors anchors_;
   bool visible_;
   bool enabled_;
   int mousePointer_ = 0;

@@ -18,6 +18,24 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
+struct Size {
+  int Width = 0;
+  int Height = 0;
+
+  bool operator==(const Size&) const = default;
+};
+
+// The edges of its window's inside from which a control keeps its distance when the window is
+// sized. Held by two opposite edges it grows with the window; by neither it stays where it is.
+struct Anchors {
+  bool Left = true;
+  bool Top = true;
+  bool Right = false;
+  bool Bottom = false;
+
+  bool operator==(const Anchors&) const = default;
+};
+
 struct Font {
   const char* Name = "";  // the dialog font
   double Size = 8;        // in points
@@ -56,6 +74,7 @@ struct Design {
   bool Default = false;  // the button that Enter presses
   bool Cancel = false;   // the button that Esc presses
   Font TextFont{};
+  Anchors Anchored{};  // of a control directly on a form
 };
 
 }  // namespace vantrel::forms

@@ -188,10 +188,6 @@ Handle Form::hWnd() const { return peer_ ? peer_->WindowHandle() : 0; }
 
 Handle Form::IconHandle() const { return peer_ ? peer_->IconHandle() : 0; }
 
-void Form::BecomeChild() {
-  if (peer_) peer_->BecomeChild();
-}
-
 void Form::PopupMenu(Menu& menu) {
   if (peer_) {
     const Toolkit::Pumping pumping(toolkit_);

@@ -29,6 +29,7 @@ inline constexpr int PointerHourglass = 11;
 inline constexpr int PointerCustom = 99;
 
 // How the window's frame is drawn.
+// A panel's window is a child from the start and shows nowhere until it is put into another one.
 enum class Border { Panel, Sizable, Dialog };
 
 struct FormDesign {
@@ -39,6 +40,8 @@ struct FormDesign {
   int Top = 0;
   Border Frame = Border::Panel;
   Color BackColor = palette::PanelBack;
+  Size Inside{};    // of a main window: the inside that its controls are placed in
+  Size Smallest{};  // of a main window: how small its frame can be dragged
 };
 
 class Form {
@@ -107,8 +110,6 @@ class Form {
   // 0 while it is not loaded.
   Handle hWnd() const;
   Handle IconHandle() const;
-  // Gives the window a child's style, before it is put into another window.
-  void BecomeChild();
   // The window takes part in Tab and shows within this one from now on; told by whoever hosts it.
   void SetHost(Form* host) { host_ = host; }
   Form* Host() const { return host_; }

@@ -39,8 +39,6 @@ class ControlPeer {
 
 class FormPeer : public ControlPeer {
  public:
-  // Gives the window a child's style, so that it can be put into another window.
-  virtual void BecomeChild() = 0;
   // Runs a message loop until the form is hidden or unloaded; other windows stay disabled.
   virtual void RunModal() = 0;
   // Shows the menu at the mouse and raises the Click of the entry chosen; a click elsewhere

@@ -26,16 +26,6 @@ const std::string& TipOf(Control& control) {
   return tip.empty() ? control.ToolTipText() : tip;
 }
 
-// A single & marks the access key, a double one is shown.
-std::string WithoutMarks(const std::string& caption) {
-  std::string text;
-  for (std::size_t at = 0; at < caption.size(); ++at) {
-    if (caption[at] == '&' && ++at == caption.size()) break;
-    text += caption[at];
-  }
-  return text;
-}
-
 std::string LabelBefore(const Control& control) {
   const auto& all = control.Owner().Controls();
   const auto at = std::find(all.begin(), all.end(), &control);
@@ -74,6 +64,15 @@ bool IsNameOfAnother(const std::string& name, const Control& control) {
 }
 
 }  // namespace
+
+std::string WithoutMarks(const std::string& caption) {
+  std::string text;
+  for (std::size_t at = 0; at < caption.size(); ++at) {
+    if (caption[at] == '&' && ++at == caption.size()) break;
+    text += caption[at];
+  }
+  return text;
+}
 
 bool IsSpokenLink(Control& control) {
   return dynamic_cast<UserControl*>(&control) != nullptr || control.Drawn() == Look::Link;

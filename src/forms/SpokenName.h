@@ -18,6 +18,9 @@ std::string SpokenName(Control& control);
 // The tool tip, if it says more than the name.
 std::string SpokenDescription(Control& control);
 
+// A caption as it shows: a single & marks the access key, a double one is shown.
+std::string WithoutMarks(const std::string& caption);
+
 // Whether it acts as a link, however it is built.
 bool IsSpokenLink(Control& control);
 

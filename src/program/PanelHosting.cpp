@@ -6,7 +6,6 @@ namespace vantrel::program {
 
 void HostPanel(Program& program, forms::Form& panel) {
   windows::frmMain& main = *program.windows.frmMain;
-  panel.BecomeChild();
   program.platform.desktop.SetParent(panel.hWnd(), main.hWnd());
   panel.SetHost(&main);
 }

@@ -14,8 +14,6 @@ namespace {
 
 using program::Program;
 
-constexpr int SmallestWidth = 9300;
-constexpr int SmallestHeight = 6825;
 constexpr int GwlWndProc = -4;
 
 void WriteDisabled(Program& program) {
@@ -25,8 +23,9 @@ void WriteDisabled(Program& program) {
 
 void frmMain_Resize(windows::frmMain& form) {
   if (form.WindowState() != forms::WindowState::Normal) return;
-  if (form.Width() < SmallestWidth) form.SetWidth(SmallestWidth);
-  if (form.Height() < SmallestHeight) form.SetHeight(SmallestHeight);
+  const forms::Size& smallest = form.Designed().Smallest;
+  if (form.Width() < smallest.Width) form.SetWidth(smallest.Width);
+  if (form.Height() < smallest.Height) form.SetHeight(smallest.Height);
 }
 
 void HideToTray(Program& program, bool& cancel) {

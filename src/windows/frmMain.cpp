@@ -9,7 +9,10 @@ frmMain::frmMain(forms::Toolkit& toolkit)
             .Height = 6998,
             .Left = -1,
             .Top = -1,
-            .Frame = forms::Border::Sizable}) {}
+            .Frame = forms::Border::Sizable,
+            // With the widest frame and the highest caption and menu bar in use.
+            .Inside = {Steps(612), Steps(412)},
+            .Smallest = {9300, 6825}}) {}
 
 controls::PropertyBag frmMain::SavedLink(const char* caption, forms::Color foreColor) {
   return {{"caption", caption},

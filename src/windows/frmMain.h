@@ -71,7 +71,7 @@ class frmMain : public forms::Form {
 
   forms::Toolbar Toolbar1{*this,
                           "Toolbar1",
-                          {.At = Grid(0, 0, 612, 34)},
+                          {.At = Grid(0, 0, 612, 34), .Anchored = {.Right = true}},
                           IMgListTool,
                           {{"General Settings", 1},
                            {},
@@ -89,7 +89,8 @@ class frmMain : public forms::Form {
                            {},
                            {"Help ", 10}}};
 
-  forms::PictureBox PicBase{*this, "PicBase", {.At = Grid(0, 34, 150, 356)}};
+  forms::PictureBox PicBase{
+      *this, "PicBase", {.At = Grid(0, 34, 150, 356), .Anchored = {.Bottom = true}}};
   forms::Image ImgLTop{PicBase, "ImgLTop", {.At = Grid(11, 2, 128, 4)}};
   forms::Label Label1{
       PicBase,
@@ -149,7 +150,8 @@ class frmMain : public forms::Form {
                        {.Caption = "Qorvel Software Vantrel ",
                         .At = Grid(150, 34, 462, 28),
                         .Drawn = forms::Look::Title,
-                        .TextFont = {.Size = 10, .Bold = true}}};
+                        .TextFont = {.Size = 10, .Bold = true},
+                        .Anchored = {.Right = true}}};
 
   // The Help frame, at the place of the panels.
   forms::Frame frahelp{*this, "frahelp", {.At = PanelPlace, .Visible = false}};
@@ -201,12 +203,13 @@ class frmMain : public forms::Form {
                         .ToolTipText = "Open the website of Qorvel Software",
                         .Drawn = forms::Look::Link}};
 
-  forms::StatusBar sbStatusBar{*this,
-                               "sbStatusBar",
-                               {.At = Grid(0, 390, 612, 22)},
-                               {{forms::StatusPanelKind::Text, "Status", 0},
-                                {forms::StatusPanelKind::Date, "", Steps(100)},
-                                {forms::StatusPanelKind::Time, "", Steps(100)}}};
+  forms::StatusBar sbStatusBar{
+      *this,
+      "sbStatusBar",
+      {.At = Grid(0, 390, 612, 22), .Anchored = {.Top = false, .Right = true, .Bottom = true}},
+      {{forms::StatusPanelKind::Text, "Status", 0},
+       {forms::StatusPanelKind::Date, "", Steps(100)},
+       {forms::StatusPanelKind::Time, "", Steps(100)}}};
 
   // Never seen: the mailbox of commands, which the start hides, with its trace, and two named ways
   // to the engine's entry.

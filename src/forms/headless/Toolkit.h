@@ -28,7 +28,7 @@ class Toolkit : public forms::Toolkit {
   double TwipsPerPixelX() const override { return 15; }
 
   // Told of everything the screen would show, in order, one line each: "frmMain Load" (its window
-  // is made), "Show", "Hide", "Unload", "BecomeChild"; changes as "FrmFrameMain.cmdstart
+  // is made), "Show", "Hide", "Unload"; changes as "FrmFrameMain.cmdstart
   // Enabled=False", "frmMain Caption=Vantrel", "Screen MousePointer=11".
   std::function<void(const std::string&)> Trace;
 

@@ -191,6 +191,7 @@ Window::Window(Toolkit& toolkit, Form& form)
       name_(form.Name()),
       handle_(toolkit.Desktop().MakeWindow(toolkit.Process(), 0, form.Caption())) {
   toolkit_.Desktop().SetControlName(handle_, name_);
+  toolkit_.Desktop().SetChildStyle(handle_, form.Designed().Frame == Border::Panel);
   toolkit_.Desktop().SetHandler(handle_,
                                 [this](const memory::Message& message) { return Takes(message); });
   Place();
@@ -223,11 +224,6 @@ void Window::Changed(Aspect aspect) {
     }
   }
   if (toolkit_.Trace) toolkit_.Tell(TraceLine(form_, aspect));
-}
-
-void Window::BecomeChild() {
-  if (toolkit_.Desktop().IsWindow(handle_)) toolkit_.Desktop().SetChildStyle(handle_, true);
-  toolkit_.Tell(name_ + " BecomeChild");
 }
 
 void Window::RunModal() { toolkit_.RunModal(form_); }

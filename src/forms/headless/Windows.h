@@ -21,7 +21,6 @@ class Window : public FormPeer {
   void Changed(Aspect aspect) override;
   void SetFocus() override {}
   Handle WindowHandle() const override { return handle_; }
-  void BecomeChild() override;
   void RunModal() override;
   void PopupMenu(Menu& menu) override;
   Handle IconHandle() const override;

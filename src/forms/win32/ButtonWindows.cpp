@@ -20,6 +20,15 @@ LRESULT ButtonWindow::OnCommand(WPARAM first, LPARAM) {
   return 0;
 }
 
+// The focus mark goes around the text that the button asks itself for while it paints: blanks at
+// its end, which nobody sees, would lengthen it.
+LRESULT ButtonWindow::TextToPaint(WPARAM size, LPARAM buffer) {
+  auto* const text = reinterpret_cast<char*>(buffer);
+  LRESULT length = ControlWindow::OnMessage(WM_GETTEXT, size, buffer);
+  while (length > 0 && text[length - 1] == ' ') text[--length] = '\0';
+  return length;
+}
+
 LRESULT ButtonWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case BM_CLICK:
@@ -28,6 +37,16 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       return 0;
     case BM_SETCHECK:
       if (!IsTelling() && AssignCheck(first)) return 0;
+      break;
+    case WM_PAINT:
+    case WM_PRINTCLIENT: {
+      painting_ = true;
+      const LRESULT answer = ControlWindow::OnMessage(message, first, second);
+      painting_ = false;
+      return answer;
+    }
+    case WM_GETTEXT:
+      if (painting_) return TextToPaint(first, second);
       break;
     case WM_SETFOCUS: {
       focusing_ = true;

@@ -21,8 +21,10 @@ class ButtonWindow : public ControlWindow {
 
  private:
   void Clicks();
+  LRESULT TextToPaint(WPARAM size, LPARAM buffer);
 
   bool focusing_ = false;
+  bool painting_ = false;
 };
 
 class CommandButtonWindow final : public ButtonWindow {

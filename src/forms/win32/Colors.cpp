@@ -51,11 +51,6 @@ bool HighContrastChosen() {
          (chosen.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
-COLORREF Screen(Color color) {
-  if ((color & SystemBit) != 0) return GetSysColor(static_cast<int>(color & ~SystemBit));
-  return color & ~0xFF000000U;
-}
-
 }  // namespace
 
 double ContrastBetween(COLORREF one, COLORREF other) {
@@ -63,7 +58,16 @@ double ContrastBetween(COLORREF one, COLORREF other) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
+COLORREF Colors::Screen(Color color) const {
+  if ((color & SystemBit) == 0) return color & ~0xFF000000U;
+  const std::size_t index = color & ~SystemBit;
+  return index < scheme_.size() ? scheme_[index] : GetSysColor(static_cast<int>(index));
+}
+
 void Colors::Refresh() {
+  for (int index = 0; index < SchemeSize; ++index) {
+    scheme_[static_cast<std::size_t>(index)] = GetSysColor(index);
+  }
   contrast_ = HighContrastChosen() || Luminance(Screen(palette::Window)) < DarkLuminance;
   brushes_.clear();
 }
@@ -87,7 +91,7 @@ COLORREF Colors::TextOn(Color text, Color ground) const {
 
 HBRUSH Colors::BrushOf(Color color) const {
   Brush& brush = brushes_[Of(color)];
-  if (!brush) brush = Brush(CreateSolidBrush(Of(color)));
+  if (!brush.Valid()) brush = Brush(CreateSolidBrush(Of(color)));
   return brush.Get();
 }
 

@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <map>
 
 #include "forms/Palette.h"
@@ -17,7 +18,8 @@ class Colors {
  public:
   Colors() { Refresh(); }
 
-  // Looks at the user's scheme anew.
+  // Takes the user's scheme as it is now. Until the next time all is painted in that one: a paint
+  // between a change of colours and the message that tells of it would mix the two.
   void Refresh();
   // Whether the scheme's colours replace the program's own.
   bool Contrast() const { return contrast_; }
@@ -29,6 +31,11 @@ class Colors {
   HBRUSH BrushOf(Color color) const;
 
  private:
+  static constexpr int SchemeSize = 31;
+
+  COLORREF Screen(Color color) const;
+
+  std::array<COLORREF, SchemeSize> scheme_{};
   bool contrast_ = false;
   mutable std::map<COLORREF, Brush> brushes_;
 };

@@ -243,6 +243,10 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_SETFOCUS:
       if (control_.IsTabStop() && !TakesFocusFromModel()) return 0;
       break;
+    case WM_SIZE:
+      // What Windows keeps of the old picture, gradient and aligned text do not continue.
+      Invalidate();
+      break;
     case WM_CAPTURECHANGED:
       pressed_ = false;
       break;

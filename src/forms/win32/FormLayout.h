@@ -1,5 +1,5 @@
-// Where the parts of a window go beyond their design: what stretches with a main window, and what
-// lies below what.
+// Puts the controls of a window where they belong: those that are anchored, by the window's size,
+// and containers below what lies beside them.
 #ifndef VANTREL_FORMS_WIN32_FORMLAYOUT_H_
 #define VANTREL_FORMS_WIN32_FORMLAYOUT_H_
 
@@ -10,8 +10,8 @@
 
 namespace vantrel::forms::win32 {
 
-// Fits a main window's bars, title and left column to its inside; all else stays where it is.
-void LayOutMain(const Form& form, HWND window, const Scale& scale);
+// Moves the anchored controls to their places in the window's inside as it is now.
+void LayOut(const Form& form, HWND window, const Scale& scale);
 
 // Puts containers and pictures' grounds below the controls beside them, whatever the order of
 // making, which is that of Tab.

@@ -30,7 +30,6 @@ class Peer final : public FormPeer {
   forms::Handle WindowHandle() const override {
     return reinterpret_cast<forms::Handle>(window_->Handle());
   }
-  void BecomeChild() override { window_->BecomeChild(); }
   void RunModal() override {
     const std::shared_ptr<FormWindow> window = window_;
     window->RunModal();
@@ -102,9 +101,9 @@ WindowShape FormWindow::Shape() const {
   if (IsMain()) {
     shape.Style |= WS_OVERLAPPEDWINDOW;
   } else if (IsPanel()) {
-    // Hidden until it is put into another window; not on the taskbar until then.
-    shape.Style |= WS_POPUP;
-    shape.ExtendedStyle |= WS_EX_TOOLWINDOW;
+    // Not even for a moment a top-level window: a taskbar would give it a button then, and keep it.
+    shape.Style |= WS_CHILD;
+    shape.Parent = HWND_MESSAGE;
   } else {
     shape.Style |= WS_POPUP | WS_CAPTION | WS_SYSMENU;
     shape.ExtendedStyle |= WS_EX_DLGMODALFRAME;
@@ -240,12 +239,6 @@ void FormWindow::ShowState() {
   if (form_.Visible() && IsMain()) ShowWindow(Handle(), ShowCommand());
 }
 
-void FormWindow::BecomeChild() {
-  const LONG_PTR style = GetWindowLongPtrA(Handle(), GWL_STYLE);
-  SetWindowLongPtrA(Handle(), GWL_STYLE, (style & ~static_cast<LONG_PTR>(WS_POPUP)) | WS_CHILD);
-  SetWindowLongPtrA(Handle(), GWL_EXSTYLE, WS_EX_CONTROLPARENT);
-}
-
 void FormWindow::Activate() {
   if (IsPanel()) return;
   SetForegroundWindow(Handle());
@@ -280,7 +273,17 @@ void FormWindow::EndModal() {
 }
 
 void FormWindow::LayOut() {
-  if (IsMain() && made_ && Alive()) LayOutMain(form_, Handle(), System().Pixels);
+  if (IsMain() && made_ && Alive()) win32::LayOut(form_, Handle(), System().Pixels);
+}
+
+// Windows stops the frame there, whichever of its handles is dragged; a frame that the Resize
+// handler enlarges afterwards would grow to the right, whichever side was dragged.
+void FormWindow::Limit(MINMAXINFO& limits) const {
+  if (IsZoomed(Handle())) return;
+  const Size& smallest = form_.Designed().Smallest;
+  POINT& track = limits.ptMinTrackSize;
+  track.x = std::max<LONG>(track.x, System().Pixels.Pixels(smallest.Width));
+  track.y = std::max<LONG>(track.y, System().Pixels.Pixels(smallest.Height));
 }
 
 void FormWindow::Resized(WPARAM kind) {
@@ -378,6 +381,12 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_QUERYENDSESSION:
     case WM_ENDSESSION:
       return Closing(message, first);
+    case WM_GETMINMAXINFO:
+      if (second != 0) Limit(*reinterpret_cast<MINMAXINFO*>(second));
+      return 0;
+    case WM_NOTIFY:
+      if (second != 0 && tips_.Shows(*reinterpret_cast<const NMHDR*>(second))) return TRUE;
+      break;
     case WM_INITMENUPOPUP:
       menus_.Opens(reinterpret_cast<HMENU>(first));
       break;

@@ -28,7 +28,6 @@ class FormWindow : public Window {
   // form is shown, when one of them is asked for, or before the program waits for messages.
   void MakeControls();
   void Changed(Aspect aspect);
-  void BecomeChild();
   void RunModal();
   void PopupMenu(Menu& menu);
   void Activate();
@@ -62,6 +61,7 @@ class FormWindow : public Window {
   void PaintAtOnce() const;
   void Resized(WPARAM kind);
   void LayOut();
+  void Limit(MINMAXINFO& limits) const;
   void LeaveFocus();
   void RestoreFocus();
   void EndModal();

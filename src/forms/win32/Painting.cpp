@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/SpokenName.h"
 #include "forms/win32/Scale.h"
 
 namespace vantrel::forms::win32 {
@@ -18,7 +19,7 @@ std::unique_ptr<BackBuffer> NewBackBuffer(HDC screen, SIZE size) {
   buffer->Picture = Bitmap(CreateCompatibleBitmap(screen, size.cx, size.cy));
   buffer->Context = MemoryContext(CreateCompatibleDC(screen));
   // Without a picture it is of no size, and the next paint tries anew.
-  if (buffer->Picture) buffer->Size = size;
+  if (buffer->Picture.Valid()) buffer->Size = size;
   SelectObject(buffer->Context.Get(), buffer->Picture.Get());
   return buffer;
 }
@@ -72,8 +73,8 @@ void RoundedFrame(HDC context, const RECT& area, int radius, COLORREF line, COLO
   const Pen pen(CreatePen(PS_SOLID, 1, line));
   const Brush brush(fill == CLR_INVALID ? nullptr : CreateSolidBrush(fill));
   const Selection withPen(context, pen.Get());
-  const Selection withBrush(context,
-                            brush ? static_cast<HGDIOBJ>(brush.Get()) : GetStockObject(NULL_BRUSH));
+  const Selection withBrush(
+      context, brush.Valid() ? static_cast<HGDIOBJ>(brush.Get()) : GetStockObject(NULL_BRUSH));
   RoundRect(context, area.left, area.top, area.right, area.bottom, 2 * radius, 2 * radius);
 }
 
@@ -120,12 +121,14 @@ int DrawnWidth(const std::string& text, HFONT font) {
 }
 
 RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment) {
-  const int room = area.right - area.left;
-  const SIZE size = MeasureText(text, font, room, DT_EXPANDTABS);
+  const int width = WidthOf(area);
+  const SIZE size = MeasureText(text, font, width, DT_EXPANDTABS);
   const int left = alignment == Align::Right    ? area.right - size.cx
-                   : alignment == Align::Center ? area.left + (room - size.cx) / 2
+                   : alignment == Align::Center ? area.left + (width - size.cx) / 2
                                                 : area.left;
-  const RECT placed{left, area.top, left + size.cx, area.top + size.cy};
+  const std::string shown = WithoutMarks(text.substr(0, text.find_last_not_of(' ') + 1));
+  const int drawn = std::min<int>(DrawnWidth(shown, font), size.cx);
+  const RECT placed{left, area.top, left + drawn, area.top + size.cy};
   RECT common{};
   IntersectRect(&common, &placed, &area);
   return common;

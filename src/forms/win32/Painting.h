@@ -58,7 +58,7 @@ SIZE MeasureText(const std::string& text, HFONT font, int width, UINT flags);
 // narrower than its measures. An & counts as itself.
 int DrawnWidth(const std::string& text, HFONT font);
 
-// Where a text aligned within an area lies, as far as the area goes.
+// Where what shows of an aligned caption lies, as far as the area goes: blanks at its end aside.
 RECT TextArea(const std::string& text, HFONT font, const RECT& area, Align alignment);
 
 UINT AlignFlags(Align alignment);

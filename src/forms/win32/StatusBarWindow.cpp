@@ -115,7 +115,6 @@ LRESULT StatusBarWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_SIZE: {
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
       if (Alive()) Divide();
-      Invalidate();
       return answer;
     }
     case WM_TIMER:

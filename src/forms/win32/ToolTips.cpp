@@ -2,12 +2,45 @@
 
 #include <commctrl.h>
 
+#include <vector>
+
+#include "forms/Placement.h"
 #include "forms/win32/Scale.h"
 
 namespace vantrel::forms::win32 {
 namespace {
 
 constexpr int WidestTip = 400;  // pixels at 96 dots per inch; longer texts take several lines
+
+Place PlaceOf(const RECT& area) { return {area.left, area.top, WidthOf(area), HeightOf(area)}; }
+
+Place PlaceOf(HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  return PlaceOf(area);
+}
+
+Place ScreenAround(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return PlaceOf(monitor.rcWork);
+}
+
+struct Neighbours {
+  HWND Control;
+  std::vector<Place> Places;
+};
+
+// Those that a user may want to reach.
+BOOL CALLBACK NoteNeighbour(HWND window, LPARAM parameter) {
+  auto& neighbours = *reinterpret_cast<Neighbours*>(parameter);
+  const bool isStop = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0;
+  if (window != neighbours.Control && isStop && IsWindowVisible(window)) {
+    neighbours.Places.push_back(PlaceOf(window));
+  }
+  return TRUE;
+}
 
 }  // namespace
 
@@ -42,6 +75,18 @@ void ToolTips::Set(HWND control, const std::string& text) {
   } else {
     controls_.insert(control);
   }
+}
+
+bool ToolTips::Shows(const NMHDR& notice) const {
+  if (notice.code != static_cast<UINT>(TTN_SHOW) || notice.hwndFrom != tips_) return false;
+  Neighbours around{reinterpret_cast<HWND>(notice.idFrom), {}};
+  EnumChildWindows(owner_, NoteNeighbour, reinterpret_cast<LPARAM>(&around));
+  const Place own = PlaceOf(tips_);
+  const Place place = TipPlace({own.Width, own.Height}, PlaceOf(around.Control), around.Places,
+                               ScreenAround(around.Control));
+  SetWindowPos(tips_, nullptr, place.Left, place.Top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  return true;
 }
 
 }  // namespace vantrel::forms::win32

@@ -1,4 +1,5 @@
-// The tool tips of one window's controls.
+// The tool tips of one window's controls, each placed so that the controls around it can be
+// reached.
 #ifndef VANTREL_FORMS_WIN32_TOOLTIPS_H_
 #define VANTREL_FORMS_WIN32_TOOLTIPS_H_
 
@@ -19,6 +20,8 @@ class ToolTips {
   // Sets the tip of a control's window under the owner; the empty text takes it away.
   void SetOwner(HWND owner) { owner_ = owner; }
   void Set(HWND control, const std::string& text);
+  // Takes the notice that a tip is about to show; false if it is none of these.
+  bool Shows(const NMHDR& notice) const;
 
  private:
   void MakeWindow();

@@ -104,7 +104,10 @@ void UserControlWindow::PaintSurface(HDC context, const RECT& area) {
   const RECT inside = PaintBorder(context, area);
   DrawTextIn(context, face.WindowText(), inside, TextFont(), color,
              DT_SINGLELINE | DT_EXPANDTABS | AlignFlags(face.Alignment()));
-  if (GetFocus() == Handle()) DrawFocusRect(context, &inside);
+  if (GetFocus() == Handle()) {
+    const RECT marked = TextArea(face.WindowText(), TextFont(), inside, face.Alignment());
+    DrawFocusRect(context, &marked);
+  }
 }
 
 // The area that the border leaves.

@@ -54,7 +54,6 @@ constexpr Shown Windows[] = {
 void Host(forms::Form& panel, forms::Form& main) {
   panel.EnsureLoaded();
   if (panel.Designed().Frame == forms::Border::Panel) {
-    panel.BecomeChild();
     SetParent(reinterpret_cast<HWND>(panel.hWnd()), reinterpret_cast<HWND>(main.hWnd()));
     panel.SetHost(&main);
   }

@@ -347,6 +347,34 @@ TEST_F(RealLinks, WithoutAutoToolTipShowTheWindowsOwn) {
   EXPECT_EQ(Tip(), OwnTip);
 }
 
+TEST_F(RealLinks, TheirToolTipLiesBesideThem) {
+  Link().SetAutoToolTip(false);
+  ASSERT_TRUE(GoAway());
+  ASSERT_TRUE(PointAt(5, 5));
+  HWND tips = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&tips));
+  ASSERT_NE(tips, nullptr);
+  SetWindowPos(tips, nullptr, 0, 0, 90, 20, SWP_NOZORDER | SWP_NOACTIVATE);
+  NMHDR notice{tips, reinterpret_cast<UINT_PTR>(Window()), static_cast<UINT>(TTN_SHOW)};
+  EXPECT_TRUE(SendMessageA(reinterpret_cast<HWND>(form_.hWnd()), WM_NOTIFY, notice.idFrom,
+                           reinterpret_cast<LPARAM>(&notice)));
+  RECT tip{};
+  GetWindowRect(tips, &tip);
+  EXPECT_EQ(tip.left, OnScreen().right);
+  EXPECT_EQ(tip.top, OnScreen().top);
+}
+
+TEST_F(RealLinks, WithoutAutoSizeALongCaptionIsCutAtTheirWidth) {
+  Link().SetAutoSize(false);
+  const RECT before = OnScreen();
+  Link().SetCaption("A caption that is a good deal longer than the link is wide, on any screen");
+  const RECT after = OnScreen();
+  EXPECT_TRUE(EqualRect(&before, &after));
+  EXPECT_EQ(Link().lblHyperlink.At().Width, Link().At().Width);
+  Link().SetAutoSize(true);
+  EXPECT_GT(OnScreen().right, before.right);
+}
+
 // The colour of a pixel of what the window paints.
 COLORREF PaintedAt(HWND window, int x, int y) {
   RECT area{};
@@ -362,6 +390,32 @@ COLORREF PaintedAt(HWND window, int x, int y) {
   DeleteObject(picture);
   DeleteDC(context);
   return color;
+}
+
+// Where the focus mark ends: the last pixel that the focus changes on the link's upper edge.
+int MarkEnd(controls::HyperLink& link, CommandButton& other) {
+  const auto window = reinterpret_cast<HWND>(link.WindowHandle());
+  RECT area{};
+  GetClientRect(window, &area);
+  for (int x = area.right - 1; x >= 0; --x) {
+    for (const int y : {0, 1}) {
+      other.SetFocus();
+      const COLORREF without = PaintedAt(window, x, y);
+      link.SetFocus();
+      if (PaintedAt(window, x, y) != without) return x;
+    }
+  }
+  return -1;
+}
+
+TEST_F(RealLinks, TheFocusMarkEndsWithTheText) {
+  Link().SetCaption("Link");
+  const int end = MarkEnd(Link(), form_.First);
+  EXPECT_GT(end, 5);
+  Link().SetCaption("Link     ");
+  EXPECT_EQ(MarkEnd(Link(), form_.First), end);
+  Link().SetCaption("Li&nk");
+  EXPECT_EQ(MarkEnd(Link(), form_.First), end);
 }
 
 TEST_F(RealLinks, ABorderIsALineAroundTheText) {

@@ -20,6 +20,7 @@
 #include "forms/Form.h"
 #include "forms/ListView.h"
 #include "forms/UserControl.h"
+#include "forms/win32/Colors.h"
 
 namespace vantrel::forms::win32 {
 namespace {
@@ -41,7 +42,9 @@ struct Everything : Form {
               .Width = 9300,
               .Height = 6998,
               .Left = -1,
-              .Frame = Border::Sizable}) {}
+              .Frame = Border::Sizable,
+              .Inside = {9000, 5830},
+              .Smallest = {6000, 4500}}) {}
 
   Menu File{*this, "File", "&File"};
   Menu Leave{File, "Leave", "&Leave"};
@@ -52,7 +55,17 @@ struct Everything : Form {
   Menu LineBelow{Tray, "LineBelow", "-"};
   Menu Below{Tray, "Below", "Below"};
   ImageList Icons{*this, "Icons", {"one", "two"}};
-  Toolbar Tools{*this, "Tools", {.At = {0, 0, 9000, 500}}, Icons, {{"First", 1}, {}, {"Last", 2}}};
+  Toolbar Tools{*this,
+                "Tools",
+                {.At = {0, 0, 9000, 500}, .Anchored = {.Right = true}},
+                Icons,
+                {{"First", 1}, {}, {"Last", 2}}};
+  Label Head{*this,
+             "Head",
+             {.Caption = "Head",
+              .At = {0, 500, 9000, 180},
+              .Drawn = Look::Title,
+              .Anchored = {.Right = true}}};
   Label Before{*this, "Before", {.Caption = "&Name:", .At = {100, 700, 900, 250}}};
   TextBox Name{*this, "Name", {.Caption = "", .At = {1100, 700, 2000, 300}}};
   CheckBox Tick{*this, "Tick", {.Caption = "&Tick", .At = {100, 1100, 1500, 250}, .Index = 3}};
@@ -80,10 +93,11 @@ struct Everything : Form {
              {{"Pop", palette::Popups, "3"}, {"Flash", palette::Flash, "4"}}};
   ProgressBar Progress{*this, "Progress", {.At = {100, 4500, 2000, 250}}};
   Surface Own{*this, "Own", {.At = {2500, 4500, 1000, 250}}};
-  StatusBar Status{*this,
-                   "Status",
-                   {.At = {0, 5500, 9000, 330}},
-                   {{StatusPanelKind::Text, "Ready", 0}, {StatusPanelKind::Date, "", 1500}}};
+  StatusBar Status{
+      *this,
+      "Status",
+      {.At = {0, 5500, 9000, 330}, .Anchored = {.Top = false, .Right = true, .Bottom = true}},
+      {{StatusPanelKind::Text, "Ready", 0}, {StatusPanelKind::Date, "", 1500}}};
   Timer Clock{*this, "Clock", 10, false};
 };
 
@@ -351,18 +365,55 @@ TEST_F(RealWindows, SizesRoundTripInTwips) {
   EXPECT_EQ(after.right - after.left, area.right - area.left);
 }
 
-TEST_F(RealWindows, BarsStretchWithTheMainWindow) {
-  form.SetWidth(12000);
-  form.SetHeight(9000);
-  RECT inside{};
-  RECT bar{};
-  GetClientRect(HandleOf(form), &inside);
-  GetClientRect(HandleOf(form.Tools), &bar);
-  EXPECT_EQ(bar.right, inside.right);
-  GetWindowRect(HandleOf(form.Status), &bar);
-  MapWindowPoints(nullptr, HandleOf(form), reinterpret_cast<POINT*>(&bar), 2);
-  EXPECT_EQ(bar.bottom, inside.bottom);
-  EXPECT_EQ(bar.right, inside.right);
+// In its parent's inside.
+RECT PlaceOf(const Control& control) {
+  RECT area{};
+  GetWindowRect(HandleOf(control), &area);
+  MapWindowPoints(nullptr, GetParent(HandleOf(control)), reinterpret_cast<POINT*>(&area), 2);
+  return area;
+}
+
+TEST_F(RealWindows, BarsAndTitleGoWithTheMainWindow) {
+  // Back to a size that they have had before, and to the one that they were designed in.
+  for (const auto& [width, height] : {std::pair{12000, 9000}, {7000, 5000}, {9300, 6998}}) {
+    form.SetWidth(width);
+    form.SetHeight(height);
+    RECT inside{};
+    GetClientRect(HandleOf(form), &inside);
+    for (const Control* bar : std::initializer_list<Control*>{&form.Tools, &form.Head}) {
+      EXPECT_EQ(PlaceOf(*bar).left, 0) << bar->Name();
+      EXPECT_NEAR(PlaceOf(*bar).right, inside.right, 1) << bar->Name() << " at " << width;
+    }
+    EXPECT_NEAR(PlaceOf(form.Status).right, inside.right, 1) << width;
+    EXPECT_NEAR(PlaceOf(form.Status).bottom, inside.bottom, 1) << height;
+  }
+}
+
+TEST_F(RealWindows, WhatIsSizedIsPaintedWhole) {
+  for (const int width : {12000, 9000}) {
+    toolkit->DoEvents();
+    RedrawWindow(HandleOf(form), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    form.SetWidth(width);
+    for (const Control* bar :
+         std::initializer_list<Control*>{&form.Tools, &form.Head, &form.Status}) {
+      RECT inside{};
+      RECT pending{};
+      GetClientRect(HandleOf(*bar), &inside);
+      GetUpdateRect(HandleOf(*bar), &pending, FALSE);
+      EXPECT_TRUE(EqualRect(&pending, &inside)) << bar->Name() << " at " << width;
+    }
+  }
+}
+
+TEST_F(RealWindows, TheFrameStopsAtItsMinimum) {
+  MINMAXINFO limits{};
+  SendMessageA(HandleOf(form), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_EQ(limits.ptMinTrackSize.x, std::lround(6000 / toolkit->TwipsPerPixelX()));
+  EXPECT_EQ(limits.ptMinTrackSize.y, std::lround(4500 / toolkit->TwipsPerPixelX()));
+  ShowWindow(HandleOf(form), SW_MAXIMIZE);
+  limits = {};
+  SendMessageA(HandleOf(form), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_EQ(limits.ptMinTrackSize.x, 0) << "a maximized window is left alone";
 }
 
 TEST_F(RealWindows, TabVisitsEachStopOnceAndComesBack) {
@@ -575,12 +626,67 @@ TEST_F(RealWindows, ARebuildOfTheSameRowsPaintsNothing) {
   EXPECT_TRUE(GetUpdateRect(HandleOf(form.List), nullptr, FALSE));
 }
 
+// Whether a new window is one that a taskbar hears of.
+std::vector<HWND> madeOnTheDesktop;
+LRESULT CALLBACK NoteTopLevel(int code, WPARAM window, LPARAM creation) {
+  if (code == HCBT_CREATEWND) {
+    const auto& shape = *reinterpret_cast<CBT_CREATEWNDA*>(creation)->lpcs;
+    const bool hasParent = shape.hwndParent != nullptr && (shape.style & WS_CHILD) != 0;
+    if (!hasParent) madeOnTheDesktop.push_back(reinterpret_cast<HWND>(window));
+  }
+  return CallNextHookEx(nullptr, code, window, creation);
+}
+
+// A taskbar takes note of every window that is made on the desktop, and keeps it when it becomes a
+// child.
+TEST_F(RealWindows, PanelsAreNeverOnTheDesktop) {
+  madeOnTheDesktop.clear();
+  const HHOOK hook = SetWindowsHookExA(WH_CBT, NoteTopLevel, nullptr, GetCurrentThreadId());
+  ASSERT_NE(hook, nullptr);
+  Panel panel(*toolkit, "Hosted");
+  panel.EnsureLoaded();
+  EXPECT_NE(GetAncestor(HandleOf(panel), GA_PARENT), GetDesktopWindow());
+  SetParent(HandleOf(panel), HandleOf(form));
+  panel.SetHost(&form);
+  panel.Show();
+  UnhookWindowsHookEx(hook);
+  EXPECT_TRUE(madeOnTheDesktop.empty());
+  EXPECT_TRUE(IsWindowVisible(HandleOf(panel)));
+  panel.Unload();
+}
+
+std::vector<COLORREF> Painted(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  const HDC screen = GetDC(nullptr);
+  const HDC context = CreateCompatibleDC(screen);
+  const HBITMAP picture = CreateCompatibleBitmap(screen, area.right, area.bottom);
+  ReleaseDC(nullptr, screen);
+  const HGDIOBJ before = SelectObject(context, picture);
+  SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(context), PRF_CLIENT);
+  std::vector<COLORREF> pixels;
+  for (int y = 0; y < area.bottom; ++y) {
+    for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(context, x, y));
+  }
+  SelectObject(context, before);
+  DeleteObject(picture);
+  DeleteDC(context);
+  return pixels;
+}
+
+TEST_F(RealWindows, BlanksBehindAnOptionsTextAreNotMarked) {
+  form.One.SetFocus();
+  const std::vector<COLORREF> without = Painted(HandleOf(form.One));
+  form.One.SetCaption("One   ");
+  EXPECT_EQ(Painted(HandleOf(form.One)), without);
+  EXPECT_EQ(TextOf(HandleOf(form.One)), "One   ");
+}
+
 class Hosted : public RealWindows {
  protected:
   Hosted() : lower(*toolkit, "Lower"), upper(*toolkit, "Upper") {
     for (Panel* panel : {&lower, &upper}) {
       panel->EnsureLoaded();
-      panel->BecomeChild();
       SetParent(HandleOf(*panel), HandleOf(form));
       panel->SetHost(&form);
       panel->Show();
@@ -722,6 +828,22 @@ TEST_F(RealWindows, AControlOfAHiddenWindowIsThereWhenItsHandleIsAskedFor) {
   EXPECT_NE(yes, nullptr);
   EXPECT_EQ(FindWindowExA(HandleOf(hidden), nullptr, "Button", "Yes"), yes);
   hidden.Unload();
+}
+
+// Windows changes the colours first and tells of it then; what is painted between is of one scheme.
+TEST(SchemeColors, StayAsTheyWereUntilTheProgramIsTold) {
+  Colors colors;
+  const int index = COLOR_WINDOWTEXT;
+  const COLORREF before = GetSysColor(index);
+  const COLORREF other = before ^ 0xFFFFFFU;
+  ASSERT_TRUE(SetSysColors(1, &index, &other));
+  ASSERT_EQ(GetSysColor(index), other);
+  EXPECT_EQ(colors.Of(palette::WindowText), before);
+  colors.Refresh();
+  EXPECT_EQ(colors.Of(palette::WindowText), other);
+  ASSERT_TRUE(SetSysColors(1, &index, &before));
+  colors.Refresh();
+  EXPECT_EQ(colors.Of(palette::WindowText), before);
 }
 
 // The low half of a handle is its place among all objects: behind so many new ones no gap is left,

@@ -37,7 +37,6 @@ class NotingPeer : public FormPeer {
   }
   void SetFocus() override { notes_.push_back(name_ + " focus"); }
   Handle WindowHandle() const override { return 77; }
-  void BecomeChild() override { notes_.push_back(name_ + " child"); }
   void RunModal() override {
     notes_.push_back(name_ + " modal");
     if (WhenModal) WhenModal();

@@ -68,7 +68,6 @@ TEST_F(Forms, WithoutAWindowThereAreNoHandles) {
   EXPECT_EQ(0U, form.hWnd());
   EXPECT_EQ(0U, form.IconHandle());
   EXPECT_EQ(0U, form.button.WindowHandle());
-  form.BecomeChild();
   form.Hide();
   form.Unload();
   EXPECT_FALSE(form.Loaded());

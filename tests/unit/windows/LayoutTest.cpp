@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Designs.h"
+#include "forms/Placement.h"
 #include "forms/SpokenName.h"
 
 namespace vantrel::windows {
@@ -32,10 +33,9 @@ bool IsPlaced(const Control& control) {
          dynamic_cast<const forms::UserControl*>(control.Container()) == nullptr;
 }
 
-// The inside of a window; of the main one with the widest frame and the highest caption and menu
-// bar in use.
 Place Inside(const Form& form) {
-  if (form.Designed().Frame == forms::Border::Sizable) return Grid(0, 0, 612, 412);
+  const forms::Size& inside = form.Designed().Inside;
+  if (form.Designed().Frame == forms::Border::Sizable) return {0, 0, inside.Width, inside.Height};
   return {0, 0, form.Width(), form.Height()};
 }
 
@@ -125,6 +125,53 @@ TEST_F(Layout, PanelsLieAtOnePlaceRightOfTheColumnBelowTheTitle) {
 TEST_F(Layout, TheMainWindowHasItsStartSize) {
   EXPECT_EQ(designs_.Main.Width(), 9300);
   EXPECT_EQ(designs_.Main.Height(), 6998);
+}
+
+TEST_F(Layout, TheMainWindowGetsNoSmallerThanItsMinimum) {
+  EXPECT_EQ(designs_.Main.Designed().Smallest, (forms::Size{9300, 6825}));
+}
+
+// Of the main window in an inside of this size.
+std::map<std::string, Place> AnchoredPlaces(const Form& main, const forms::Size& inside) {
+  std::map<std::string, Place> places;
+  for (const Control* control : main.Controls()) {
+    if (control->Anchored() == forms::Anchors{}) continue;
+    places[control->Name()] =
+        forms::PlaceWithin(inside, control->At(), control->Anchored(), main.Designed().Inside);
+  }
+  return places;
+}
+
+TEST_F(Layout, BarsTitleAndColumnGoWithTheMainWindow) {
+  const std::map<std::string, Place> expected{{"Toolbar1", {0, 0, 15000, 510}},
+                                              {"PicBase", {0, 510, 2250, 9160}},
+                                              {"lblVCP1", {2250, 510, 12750, 420}},
+                                              {"sbStatusBar", {0, 9670, 15000, 330}}};
+  EXPECT_EQ(AnchoredPlaces(designs_.Main, {15000, 10000}), expected);
+}
+
+TEST_F(Layout, OnlyWhatLiesOnTheMainWindowItselfIsAnchored) {
+  ForEach([this](Control& control) {
+    if (control.Anchored() == forms::Anchors{}) return;
+    EXPECT_EQ(&control.Owner(), &designs_.Main);
+    EXPECT_EQ(control.Container(), nullptr);
+  });
+}
+
+TEST_F(Layout, TheCountersNamesStandUnderTheirBoxes) {
+  const FrmFrameGraph& graph = designs_.Graph;
+  const std::vector<std::pair<const Control*, const Control*>> pairs{
+      {&graph.txtPop, &graph.Label1_1},
+      {&graph.txtDHTML, &graph.Label1_2},
+      {&graph.txtWebD, &graph.Label1_3},
+      {&graph.txtBanner, &graph.Label1_4},
+      {&graph.txtFlash, &graph.Label1_5}};
+  for (const auto& [box, name] : pairs) {
+    SCOPED_TRACE(box->Name());
+    EXPECT_EQ(name->At().Left, box->At().Left);
+    EXPECT_EQ(name->At().Width, box->At().Width);
+    EXPECT_EQ(name->At().Top, Bottom(box->At()) + Steps(1));
+  }
 }
 
 TEST_F(Layout, LinksOfTheColumnAreTwentyStepsApartBesideTheirIcons) {

@@ -60,7 +60,6 @@ TEST_F(Headless, AnUnloadedWindowIsGoneWithItsControls) {
 TEST_F(Headless, APanelInAWindowThatIsGoneLosesItsRecordAndLivesOn) {
   form.Show();
   panel.EnsureLoaded();
-  panel.BecomeChild();
   desktop.SetParent(panel.hWnd(), form.hWnd());
   panel.SetHost(&form);
   panel.Show();
