@@ -36,7 +36,7 @@ struct StoredValue {
 // The bytes that an update stores under the value's type.
 std::string UpdatedBytes(std::uint32_t type, const StoredValue& stored, const std::string& text) {
   if (type == RegSz) return text;
-  if (type == RegDword) return DwordBytesByDivision(text::RoundToLong(text::Val(text)));
+  if (type == RegDword) return DwordBytesByDivision(text::RoundToLong(text::DecimalVal(text)));
   // A value of another type is meant to get its own bytes back, at the buffer's full length.
   return std::string(stored.Whole());
 }

@@ -70,6 +70,18 @@ std::string_view Bare(std::string_view text) {
   return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
 }
 
+std::string WithoutBlanks(std::string_view text) {
+  std::string bare;
+  for (const char c : text) {
+    if (c != ' ' && c != '\t' && c != '\r' && c != '\n') bare += c;
+  }
+  return bare;
+}
+
+double LeadingDecimal(std::string_view text) {
+  return Decimal(text.substr(0, DecimalLength(text)));
+}
+
 double StrictDecimal(std::string_view text) {
   const std::size_t length = DecimalLength(text);
   if (length == 0 || length != text.size()) throw RuntimeError(ErrorNumber::TypeMismatch);
@@ -110,19 +122,16 @@ std::int32_t CLng(std::string_view text) {
 }
 
 double Val(std::string_view text) {
-  std::string bare;
-  for (const char c : text) {
-    if (c != ' ' && c != '\t' && c != '\r' && c != '\n') bare += c;
+  const std::string bare = WithoutBlanks(text);
+  if (!StartsHex(bare)) return LeadingDecimal(bare);
+  double number = 0;
+  for (std::size_t i = 2; i < bare.size() && HexDigit(bare[i]) >= 0; ++i) {
+    number = number * 16 + HexDigit(bare[i]);
   }
-  if (StartsHex(bare)) {
-    double number = 0;
-    for (std::size_t i = 2; i < bare.size() && HexDigit(bare[i]) >= 0; ++i) {
-      number = number * 16 + HexDigit(bare[i]);
-    }
-    return number;
-  }
-  return Decimal(std::string_view(bare).substr(0, DecimalLength(bare)));
+  return number;
 }
+
+double DecimalVal(std::string_view text) { return LeadingDecimal(WithoutBlanks(text)); }
 
 std::uint32_t HexToNumber(std::string_view digits) {
   if (digits.empty()) throw RuntimeError(ErrorNumber::TypeMismatch);

@@ -21,6 +21,9 @@ std::int32_t CLng(std::string_view text);
 // hexadecimal number. Never fails.
 double Val(std::string_view text);
 
+// The same for decimal numbers alone: "&h10" starts with none and gives 0.
+double DecimalVal(std::string_view text);
+
 // The digits as an unsigned hexadecimal number; an overflow (6) beyond 32 bits, a type mismatch
 // (13) for anything but hexadecimal digits or for no digit at all.
 std::uint32_t HexToNumber(std::string_view digits);

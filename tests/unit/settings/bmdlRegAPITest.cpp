@@ -167,6 +167,8 @@ TEST_F(BmdlRegAPI, ARunValueIsDeletedSilently) {
   world.registry.SetString(HKeyLocalMachine, RunKey, "Vantrel", "x");
   DeleteRunValue(Registry(), HKeyLocalMachine, RunKey, "Vantrel");
   EXPECT_FALSE(world.registry.Get(HKeyLocalMachine, RunKey, "Vantrel"));
+  EXPECT_EQ(process.Trace().Lines().front(),
+            "RegOpenKeyExA HKLM\\" + std::string(RunKey) + " 0x3F -> 0");
   DeleteRunValue(Registry(), HKeyLocalMachine, RunKey, "Vantrel");
   EXPECT_THAT(process.Boxes(), IsEmpty());
   EXPECT_EQ(process.OpenKeys(), 0U);

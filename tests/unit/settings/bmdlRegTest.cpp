@@ -78,7 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
     , BmdlRegDword,
     testing::Values(DwordReading{0, "0"}, DwordReading{1, "1"}, DwordReading{15, "15"},
                     DwordReading{16, "16"}, DwordReading{255, "255"}, DwordReading{300, "300"},
-                    DwordReading{261, "21"}, DwordReading{515, "35"}, DwordReading{4096, "256"},
+                    DwordReading{261, "21"}, DwordReading{0x010F, "31"},
+                    DwordReading{0x0110, "272"}, DwordReading{515, "35"}, DwordReading{4096, "256"},
                     DwordReading{32767, "32767"}, DwordReading{40000, "40000"},
                     DwordReading{65535, "65535"}, DwordReading{0x12345678, "305419896"},
                     DwordReading{0x7FFFFFFF, "2147483647"}, DwordReading{0x80FFFFFF, "2164260863"},
@@ -259,6 +260,37 @@ TEST_F(BmdlReg, UpdateKeepsTheTypeOfANumber) {
   EXPECT_EQ(Stored("a"), "4:" + Bytes({0, 0, 0, 0}));
   EXPECT_TRUE(Update("a", "2.5 apples"));
   EXPECT_EQ(Stored("a"), "4:" + Bytes({2, 0, 0, 0}));
+}
+
+TEST_F(BmdlReg, UpdateRoundsHalfToEven) {
+  tree.SetDword(HKeyCurrentUser, Key, "a", 7);
+  const std::pair<const char*, int> numbers[] = {{"2.4", 2}, {"2.5", 2}, {"2.6", 3},
+                                                 {"3.5", 4}, {"0.5", 0}, {"1e2", 100}};
+  for (const auto& [text, number] : numbers) {
+    EXPECT_TRUE(Update("a", text));
+    EXPECT_EQ(Stored("a"), "4:" + Bytes({number, 0, 0, 0})) << text;
+  }
+}
+
+TEST_F(BmdlReg, UpdateReadsDecimalNumbersAlone) {
+  tree.SetDword(HKeyCurrentUser, Key, "a", 7);
+  for (const char* text : {"&h10", "&H10", " & h10", "&o10"}) {
+    EXPECT_TRUE(Update("a", text));
+    EXPECT_EQ(Stored("a"), "4:" + Bytes({0, 0, 0, 0})) << text;
+  }
+  EXPECT_TRUE(Update("a", " 1 0"));
+  EXPECT_EQ(Stored("a"), "4:" + Bytes({10, 0, 0, 0}));
+}
+
+TEST_F(BmdlReg, UpdateOpensWithTheFullMask) {
+  tree.SetDword(HKeyCurrentUser, Key, "a", 7);
+  EXPECT_TRUE(Update("a", "8"));
+  EXPECT_THAT(
+      Calls(),
+      ElementsAre("RegOpenKeyExA HKCU\\Software\\Qorvel Softwares\\Block Log 0xF003F -> 0",
+                  "RegQueryValueExA HKCU\\Software\\Qorvel Softwares\\Block Log \"a\" 1024 -> 0",
+                  "RegSetValueExA HKCU\\Software\\Qorvel Softwares\\Block Log \"a\" 4 8 0 0 0 -> 0",
+                  "RegCloseKey HKCU\\Software\\Qorvel Softwares\\Block Log -> 0"));
 }
 
 TEST_F(BmdlReg, UpdateDividesANegativeNumberWithTruncation) {
