@@ -3,18 +3,22 @@
 #define VANTREL_FORMS_EVENT_H_
 
 #include <functional>
+#include <stdexcept>
 #include <utility>
 
 namespace vantrel::forms {
 
-// Binding replaces the handler; raising an event that nobody bound does nothing. The handler may
-// bind another, unload its window or raise the event again: what runs is a copy.
+// Raising an event that nobody bound does nothing. The handler may release the event (bind nullptr
+// to it), unload its window or raise the event again: what runs is a copy.
 template <class... Arguments>
 class Event {
  public:
   using Handler = std::function<void(Arguments...)>;
 
+  // Binding an event that is bound is a programming error, std::logic_error: two behaviours would
+  // fight over one control, and the first would be lost without a sign.
   Event& operator=(Handler handler) {
+    if (handler_ && handler) throw std::logic_error("this event is bound already");
     handler_ = std::move(handler);
     return *this;
   }

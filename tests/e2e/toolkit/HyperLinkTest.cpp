@@ -299,6 +299,7 @@ TEST_F(RealLinks, OpenTheirAddressThenTell) {
   std::string program = VANTREL_RECORDING_BROWSER;
   std::replace(program.begin(), program.end(), '/', '\\');
   Link().SetHyperLink(program);
+  Link().Click = nullptr;
   Link().Click = [this] {
     events_.push_back("Click under pointer " + std::to_string(toolkit_->ScreenPointer()));
   };

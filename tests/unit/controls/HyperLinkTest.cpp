@@ -115,6 +115,7 @@ TEST_F(HyperLinks, EnteringShowsTheHoverStateAndTellsOnce) {
 TEST_F(HyperLinks, MouseOverPassesOnWhereTheMouseIs) {
   Make();
   std::vector<float> at;
+  Link().MouseOver = nullptr;
   Link().MouseOver = [&at](int, int, float x, float y) { at = {x, y}; };
   user_.PointAt(Link(), 45, 60);
   EXPECT_EQ(at, (std::vector<float>{45, 60}));
@@ -212,6 +213,7 @@ TEST_F(HyperLinks, LeavingTakesItsStepsInTheirOrderAndStopsTheTimerLast) {
   toolkit_.Trace = [&](const std::string& line) {
     steps.push_back(line + (Link().IsOver() ? " over" : ""));
   };
+  Link().MouseOut = nullptr;
   Link().MouseOut = [&] {
     steps.push_back(Link().myTimer.Enabled() ? "MouseOut, timer on" : "MouseOut, timer off");
   };
@@ -240,6 +242,7 @@ TEST_F(HyperLinks, AnErrorOfTheMouseOutHandlerEndsAtItsOwnBorderAndTheTimerStops
   toolkit_.OnUntrappedError = [&shown](const text::RuntimeError& error) {
     shown.push_back(error.Number());
   };
+  Link().MouseOut = nullptr;
   Link().MouseOut = [] { throw text::RuntimeError(text::ErrorNumber::TypeMismatch); };
   Enter();
   GoAway();
@@ -252,6 +255,7 @@ TEST_F(HyperLinks, AnErrorOfTheMouseOutHandlerEndsAtItsOwnBorderAndTheTimerStops
 
 TEST_F(HyperLinks, TicksDuringTheMouseOutHandlerRaiseNoSecond) {
   Make();
+  Link().MouseOut = nullptr;
   Link().MouseOut = [this] {
     events_.push_back("MouseOut");
     Link().myTimer.Tick();
@@ -265,6 +269,7 @@ TEST_F(HyperLinks, TicksDuringTheMouseOutHandlerRaiseNoSecond) {
 
 TEST_F(HyperLinks, TheTimerGoesOnIfTheMouseComesBackDuringTheMouseOutHandler) {
   Make();
+  Link().MouseOut = nullptr;
   Link().MouseOut = [this] { Enter(); };
   Enter();
   GoAway();
@@ -275,6 +280,7 @@ TEST_F(HyperLinks, TheTimerGoesOnIfTheMouseComesBackDuringTheMouseOutHandler) {
 
 TEST_F(HyperLinks, TheEndOfTheProgramPassesThroughMouseOut) {
   Make();
+  Link().MouseOut = nullptr;
   Link().MouseOut = [this] { toolkit_.End(); };
   Enter();
   EXPECT_THROW(Link().MouseLeave(), forms::EndProgram);
@@ -285,6 +291,7 @@ TEST_F(HyperLinks, AClickOpensTheAddressUnderTheHourglassThenTells) {
   toolkit_.SetScreenPointer(7);
   std::vector<std::string> lines;
   toolkit_.Trace = [&lines](const std::string& line) { lines.push_back(line); };
+  Link().Click = nullptr;
   Link().Click = [&] {
     events_.push_back("Click after " + std::to_string(world_.openedDocuments.size()));
   };
@@ -325,6 +332,7 @@ TEST_F(HyperLinks, AnErrorOfTheClicksHandlerEndsAtItsOwnBorder) {
   toolkit_.OnUntrappedError = [&shown](const text::RuntimeError& error) {
     shown.push_back(error.Number());
   };
+  Link().Click = nullptr;
   Link().Click = [] { throw text::RuntimeError(text::ErrorNumber::FileNotFound); };
   EXPECT_NO_THROW(Link().UserClick());
   EXPECT_EQ(shown, std::vector{text::ErrorNumber::FileNotFound});
@@ -332,6 +340,7 @@ TEST_F(HyperLinks, AnErrorOfTheClicksHandlerEndsAtItsOwnBorder) {
 
 TEST_F(HyperLinks, TheEndOfTheProgramPassesThroughAClick) {
   Make({{"hyperlink", ""}});
+  Link().Click = nullptr;
   Link().Click = [this] { toolkit_.End(); };
   EXPECT_THROW(Link().UserClick(), forms::EndProgram);
 }
@@ -469,6 +478,7 @@ TEST_F(HyperLinks, TheSettersThatMayChangeTheSizeReportAndThenFollowTheLabel) {
     const forms::Place before = Link().At();
     Label().Move({0, 0, 900, 210});
     std::vector<forms::Place> reported;
+    Link().PropertyChanged = nullptr;
     Link().PropertyChanged = [&](const std::string&) { reported.push_back(Link().At()); };
     set(Link());
     EXPECT_EQ(reported, std::vector{before});
@@ -489,6 +499,7 @@ TEST_F(HyperLinks, TheSizeFollowsBeforeAChangeIsTold) {
   Make();
   Label().Move({0, 0, 900, 210});
   forms::Place told;
+  Link().Change = nullptr;
   Link().Change = [&] { told = Link().At(); };
   Link().SetCaption("Shorter");
   EXPECT_EQ(told, (forms::Place{LinkPlace.Left, LinkPlace.Top, 900, 210}));

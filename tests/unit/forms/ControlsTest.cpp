@@ -109,8 +109,16 @@ TEST_F(Controls, AHandlerMayChangeItsOwnControlAgain) {
   EXPECT_THAT(notes, ElementsAre("check changed 5", "1", "check changed 5", "2"));
 }
 
-TEST_F(Controls, AHandlerMayBindAnotherToItsEvent) {
+TEST_F(Controls, AnEventIsBoundOnce) {
+  form.button.Click = Note("first");
+  EXPECT_THROW(form.button.Click = Note("second"), std::logic_error);
+  form.button.SetValue(true);
+  EXPECT_THAT(notes, ElementsAre("first"));
+}
+
+TEST_F(Controls, AHandlerMayReleaseItsEventAndBindAnother) {
   form.button.Click = [&] {
+    form.button.Click = nullptr;
     form.button.Click = Note("second");
     notes.push_back("first");
   };

@@ -15,6 +15,7 @@ class Hand : public Headless {
   Hand() {
     form.Show();
     for (Control* control : form.Controls()) {
+      control->Click = nullptr;
       control->Click = [this, control] { notes.push_back(control->Name()); };
     }
   }
@@ -204,6 +205,7 @@ TEST_F(Hand, ClosesADialogWithoutACancelButtonByEscape) {
 }
 
 TEST_F(Hand, ActsNoMoreOnceTheProgramEnds) {
+  form.ok.Click = nullptr;
   form.ok.Click = [&] { toolkit.End(); };
   EXPECT_TRUE(user.Click(form.ok));
   EXPECT_FALSE(user.Click(form.check));
