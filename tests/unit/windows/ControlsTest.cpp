@@ -1,6 +1,6 @@
 // Each window's controls as its users and its behaviour know them: name, kind, text, tool tip and
 // the state that it is designed with.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
 #include <vector>
@@ -77,21 +77,47 @@ struct Row {
   const char* State = "";
 };
 
-void ExpectControls(const forms::Form& form, const std::vector<Row>& rows) {
-  for (const Row& row : rows) {
-    SCOPED_TRACE(form.Name() + "." + row.Name);
-    forms::Control* const control = form.FindControl(row.Name);
-    ASSERT_NE(control, nullptr);
-    const Described described(*control);
-    EXPECT_EQ(described.Kind(), row.Kind);
-    EXPECT_EQ(described.State(), row.State);
-    if (row.Text != Any) {
-      EXPECT_EQ(control->WindowText(), row.Text);
-    }
-    if (row.ToolTip != Any) {
-      EXPECT_EQ(control->ToolTipText(), row.ToolTip);
-    }
+using Rows = std::vector<Row>;
+
+// The rows, and one for each of the names, all of one kind and text.
+Rows With(Rows rows, const std::vector<const char*>& names, const char* kind, const char* text) {
+  for (const char* name : names) rows.push_back({name, kind, text});
+  return rows;
+}
+
+void ExpectControl(const forms::Form& form, const Row& row) {
+  SCOPED_TRACE(form.Name() + "." + row.Name);
+  forms::Control* const control = form.FindControl(row.Name);
+  ASSERT_NE(control, nullptr);
+  const Described described(*control);
+  EXPECT_EQ(described.Kind(), row.Kind);
+  EXPECT_EQ(described.State(), row.State);
+  if (row.Text != Any) {
+    EXPECT_EQ(control->WindowText(), row.Text);
   }
+  if (row.ToolTip != Any) {
+    EXPECT_EQ(control->ToolTipText(), row.ToolTip);
+  }
+}
+
+// The names of a window's controls, those inside a control of its own kind apart.
+std::vector<std::string> NamesOn(const forms::Form& form) {
+  std::vector<std::string> names;
+  for (const forms::Control* control : form.Controls()) {
+    if (dynamic_cast<const forms::UserControl*>(control->Container()) != nullptr) continue;
+    names.push_back(control->QualifiedName().substr(form.Name().size() + 1));
+  }
+  return names;
+}
+
+// The window has these controls and no other: a control without a row is designed by nobody.
+void ExpectControls(const forms::Form& form, const Rows& rows) {
+  std::vector<std::string> listed;
+  for (const Row& row : rows) {
+    ExpectControl(form, row);
+    listed.emplace_back(row.Name);
+  }
+  EXPECT_THAT(NamesOn(form), testing::UnorderedElementsAreArray(listed));
 }
 
 class DesignedControls : public testing::Test {
@@ -100,40 +126,49 @@ class DesignedControls : public testing::Test {
 };
 
 TEST_F(DesignedControls, OfTheMainWindow) {
-  ExpectControls(designs_.Main, {{"Toolbar1", "toolbar"},
-                                 {"sbStatusBar", "status bar"},
-                                 {"PicBase", "area"},
-                                 {"lblVCP1", "label", Any},
-                                 {"Label1", "label", "Preferences"},
-                                 {"Label2", "label", "Security"},
-                                 {"Label3", "label", "Help and Statistics"},
-                                 {"frahelp", "frame", "", Any, "hidden"},
-                                 {"Frame6", "frame", "Help topics - Grimbolt"},
-                                 {"Label29", "link", "Online help"},
-                                 {"Label31", "link", "FAQ's"},
-                                 {"Label32", "link", "Help"},
-                                 {"Label57", "link", "Help", "Help on help"},
-                                 {"Label30", "link", "Qorvel Software Website"},
-                                 {"Label61", "link", "Help && Support"},
-                                 {"Label33", "label", "Vantrel"},
-                                 {"Label34", "label", "Address"},
-                                 {"Label11", "label", "Vantrel"},
-                                 {"Label10", "label", "Version 1.0"},
-                                 {"cmdADDBHO", "button", "AddBHO", Any, "hidden"},
-                                 {"cmdRemoveBHO", "button", "RemoveBHO", Any, "hidden"},
-                                 {"cmdDummy", "button", Any},
-                                 {"Text1", "text box", Any, Any, "hidden, multi-line"},
-                                 {"Timer1", "timer", "", Any, "2000 ms"},
-                                 {"ImgLTop", "image"},
-                                 {"imgbottom", "image"},
-                                 {"ImghelpLine", "image"},
-                                 {"ImgHelpImage", "image"}});
+  const Rows rows{{"Toolbar1", "toolbar"},
+                  {"sbStatusBar", "status bar"},
+                  {"PicBase", "area"},
+                  {"lblVCP1", "label", Any},
+                  {"Label1", "label", "Preferences"},
+                  {"Label2", "label", "Security"},
+                  {"Label3", "label", "Help and Statistics"},
+                  {"frahelp", "frame", "", Any, "hidden"},
+                  {"Frame6", "frame", "Help topics - Grimbolt"},
+                  {"Label29", "link", "Online help"},
+                  {"Label31", "link", "FAQ's"},
+                  {"Label32", "link", "Help"},
+                  {"Label57", "link", "Help", "Help on help"},
+                  {"Label30", "link", "Qorvel Software Website"},
+                  {"Label61", "link", "Help && Support"},
+                  {"Label33", "label", "Vantrel"},
+                  {"Label34", "label", "Address"},
+                  {"Label11", "label", "Vantrel"},
+                  {"Label10", "label", "Version 1.0"},
+                  {"cmdADDBHO", "button", "AddBHO", Any, "hidden"},
+                  {"cmdRemoveBHO", "button", "RemoveBHO", Any, "hidden"},
+                  {"cmdDummy", "button", Any},
+                  {"Text1", "text box", Any, Any, "hidden, multi-line"},
+                  {"Timer1", "timer", "", Any, "2000 ms"},
+                  {"ImgLTop", "image"},
+                  {"imgbottom", "image"},
+                  {"ImghelpLine", "image"},
+                  {"ImgHelpImage", "image"}};
+  const std::vector<const char*> icons{
+      "ImgWelcome", "ImgAdBlocking", "ImgSettings",    "ImgClean", "ImgAllowed", "IMgNotify",
+      "IeSettings", "ImgIEPlug",     "ImgCheckRepair", "ImgGraph", "ImgDetails", "ImgHelp"};
+  const std::vector<const char*> links{"LnkWelcome",    "LnkAdBlocking",  "LnkSettings",
+                                       "lnkClean",      "LnkAllowedList", "LnkNotification",
+                                       "LnkIESettings", "LnkIePlug",      "lnkCheckAndRepair",
+                                       "LnkGraph",      "LnkLog",         "LnkHelp"};
+  ExpectControls(designs_.Main, With(With(rows, icons, "image", ""), links, "own", Any));
 }
 
 TEST_F(DesignedControls, OfTheWelcomePanel) {
   ExpectControls(
       designs_.Welcome,
-      {{"Frame4", "frame", "Start blocking Advertisments"},
+      {{"Frame1", "frame", Any},
+       {"Frame4", "frame", "Start blocking Advertisments"},
        {"optDial", "option", "For Dialup internet connection "},
        {"optMedium", "option", "For medium connection (DSL/Cable)", Any, "selected"},
        {"optFast", "option", "For fast connection (T1)"},
@@ -158,8 +193,9 @@ TEST_F(DesignedControls, OfTheWelcomePanel) {
 }
 
 TEST_F(DesignedControls, OfTheAdBlockingPanel) {
-  ExpectControls(designs_.AdBlocking,
-                 {{"chkAll", "check box", "Block All Popup Ads"},
+  const Rows rows{{"Frame1", "frame", Any},
+                  {"Label1", "label", Any},
+                  {"chkAll", "check box", "Block All Popup Ads"},
                   {"chkBPopup", "check box", "Pop-up Ads", Any, "ticked"},
                   {"chkBDhtml", "check box", "DHTML Fly-in Ads", Any, "ticked"},
                   {"chkBDialog", "check box", "Web Page Dialogs", Any, "ticked"},
@@ -170,42 +206,44 @@ TEST_F(DesignedControls, OfTheAdBlockingPanel) {
                   {"chkBSpyware", "check box", "Block Automatic Spyware downloads", Any, "ticked"},
                   {"chkBFull", "check box", "Full Screen", Any, "disabled"},
                   {"cmbinternet", "editable list", "Custom"},
-                  {"cmdsave", "button", "&Save", Any, "hidden, disabled"}});
-  for (const char* help : {"Label12", "Label17", "Label18", "Label2", "Label20", "Label21",
-                           "Label22", "Label23", "Label24", "Label7"}) {
-    ExpectControls(designs_.AdBlocking, {{help, "link", "Help"}});
-  }
+                  {"cmdsave", "button", "&Save", Any, "hidden, disabled"}};
+  ExpectControls(designs_.AdBlocking, With(rows,
+                                           {"Label12", "Label17", "Label18", "Label2", "Label20",
+                                            "Label21", "Label22", "Label23", "Label24", "Label7"},
+                                           "link", "Help"));
 }
 
 TEST_F(DesignedControls, OfTheSettingsPanel) {
-  ExpectControls(
-      designs_.Settings,
-      {{"chkGHideSystray", "check box", "Hide to system tray when closed",
-        "Enable to hide the program to system tray when program is closed"},
-       {"chkGSWindows", "check box", "Start with Windows",
-        "Enable to start Vantrel on Windows startup"},
-       {"chkGUpdate", "check box", "Automatically check for updates",
-        "Enable to automatically check for program updates when you connect to internet"},
-       {"chkGLog", "check box", "Keep a log of the Ads blocked",
-        "Enable to keep a log of all the ads blocked by the program"},
-       {"chkGShowToolbar", "check box", "Show Browser toolbar",
-        "Enable to display Vantrel toolbar in internet explorer", "ticked"},
-       {"chkScript", "check box", "Disable Script Debugger (Recommended)",
-        "By enabling this option, you will not receive scripting errors when pop-ups are blocked",
-        "ticked"},
-       {"lblviewtoolbar", "link", "View Toolbar", "What is a browser toolbar and where it is shown",
-        "hidden"},
-       {"cmdtoolbar", "button", "&Customize Toolbar"},
-       {"Command4", "button", "Check &Update"},
-       {"cmdresetSettings", "button", "&Reset"}});
-  for (const char* help : {"lblHGS", "Label13", "Label14", "Label15", "Label16", "Label25"}) {
-    ExpectControls(designs_.Settings, {{help, "link", "Help"}});
-  }
+  const Rows rows{
+      {"Frame1", "frame", Any},
+      {"Label1", "label", Any},
+      {"chkGHideSystray", "check box", "Hide to system tray when closed",
+       "Enable to hide the program to system tray when program is closed"},
+      {"chkGSWindows", "check box", "Start with Windows",
+       "Enable to start Vantrel on Windows startup"},
+      {"chkGUpdate", "check box", "Automatically check for updates",
+       "Enable to automatically check for program updates when you connect to internet"},
+      {"chkGLog", "check box", "Keep a log of the Ads blocked",
+       "Enable to keep a log of all the ads blocked by the program"},
+      {"chkGShowToolbar", "check box", "Show Browser toolbar",
+       "Enable to display Vantrel toolbar in internet explorer", "ticked"},
+      {"chkScript", "check box", "Disable Script Debugger (Recommended)",
+       "By enabling this option, you will not receive scripting errors when pop-ups are blocked",
+       "ticked"},
+      {"lblviewtoolbar", "link", "View Toolbar", "What is a browser toolbar and where it is shown",
+       "hidden"},
+      {"cmdtoolbar", "button", "&Customize Toolbar"},
+      {"Command4", "button", "Check &Update"},
+      {"cmdresetSettings", "button", "&Reset"}};
+  ExpectControls(designs_.Settings,
+                 With(rows, {"lblHGS", "Label13", "Label14", "Label15", "Label16", "Label25"},
+                      "link", "Help"));
 }
 
 TEST_F(DesignedControls, OfTheNotificationPanel) {
-  ExpectControls(designs_.Notification,
-                 {{"chkNAll", "check box", "Don't Notify at all"},
+  const Rows rows{{"Frame1", "frame", Any},
+                  {"Label1", "label", Any},
+                  {"chkNAll", "check box", "Don't Notify at all"},
                   {"chkNW", "check box", "Display a notification window"},
                   {"chkNS", "check box", "Play a sound"},
                   {"cmbsound", "pick list"},
@@ -213,17 +251,18 @@ TEST_F(DesignedControls, OfTheNotificationPanel) {
                   {"chkNPH", "check box", "Display place holders for block Image Ads"},
                   {"chkNPHF", "check box", "Display place holders for block Flash Ads"},
                   {"chkNMC", "check box", "Change Mouse Cursor", Any, "disabled"},
-                  {"cmdDefaultNotify", "button", "Default"}});
-  for (const char* help :
-       {"Label42", "Label49", "Label50", "Label51", "Label52", "Label53", "Label58"}) {
-    ExpectControls(designs_.Notification, {{help, "link", "Help"}});
-  }
+                  {"cmdDefaultNotify", "button", "Default"}};
+  ExpectControls(
+      designs_.Notification,
+      With(rows, {"Label42", "Label49", "Label50", "Label51", "Label52", "Label53", "Label58"},
+           "link", "Help"));
   EXPECT_EQ(designs_.Notification.cmbsound.ListIndex(), -1);
 }
 
 TEST_F(DesignedControls, OfTheCleanPanel) {
   ExpectControls(designs_.Clean,
-                 {{"Frame1", "frame", "Delete Cache and Windows History             "},
+                 {{"Label1", "label", Any},
+                  {"Frame1", "frame", "Delete Cache and Windows History             "},
                   {"Frame2", "frame", "Remove unwanted cookies         "},
                   {"chkCacheHistory", "check box", "History folder", Any, "ticked"},
                   {"chkCacheInternet", "check box", "Temp. internet files", Any, "ticked"},
@@ -258,7 +297,8 @@ TEST_F(DesignedControls, OfTheCleanPanel) {
 
 TEST_F(DesignedControls, OfTheAllowedListPanel) {
   ExpectControls(designs_.AllowedList,
-                 {{"Label63", "label", "Allowed List", Any, "hidden"},
+                 {{"Label2", "label", Any},
+                  {"Label63", "label", "Allowed List", Any, "hidden"},
                   {"Frame11", "frame", "Allowed List"},
                   {"Label5", "label", "Allow list"},
                   {"Label1", "label",
@@ -285,6 +325,8 @@ TEST_F(DesignedControls, OfTheIESettingsPanel) {
                  {{"Frame1", "frame", "Internet Explorer Settings "},
                   {"Label1", "label", "Backup/ Restore your Internet Explorer settings "},
                   {"Label2", "label", "Backup your Internet Explorer settings "},
+                  {"Label3", "label", Any},
+                  {"Label4", "label", Any},
                   {"Label5", "label", "Restore your last saved IE settings "},
                   {"txtIESettings", "text box"},
                   {"cmdBrowseIESettings", "button", Any, "browse for the path of the cookie"},
@@ -360,6 +402,7 @@ TEST_F(DesignedControls, OfTheToolbarDialog) {
        {"cmdMDown", "button", "Move Down"},
        {"cmdReset", "button", "Reset"},
        {"Label2", "label", "You may have to restart Internet Explorer to see the changes"},
+       {"Label3", "label", Any},
        {"txttoolbarname", "text box", Any},
        {"cmdDone", "button", "Save"},
        {"Command1", "button", "Ok"}});
