@@ -22,11 +22,6 @@ using BoxMember = CheckBox Panel::*;
 constexpr BoxMember AllRule[] = {&Panel::chkBAdv,    &Panel::chkBBanner, &Panel::chkBDhtml,
                                  &Panel::chkBDialog, &Panel::chkBFlash,  &Panel::chkBPopup};
 
-// The boxes that the master box sets, in its order: two more than it stands for.
-constexpr BoxMember Cascade[] = {&Panel::chkBDhtml,     &Panel::chkBDialog, &Panel::chkBFlash,
-                                 &Panel::chkBBanner,    &Panel::chkBPopup,  &Panel::chkBAdv,
-                                 &Panel::chkBDialogBox, &Panel::chkBSpyware};
-
 // What else a box does after its save, given its state.
 using SideEffect = void (*)(Program&, int state);
 
@@ -45,18 +40,17 @@ struct BoxRow {
   SideEffect Then = nullptr;
 };
 
+// In the order in which the master box sets them: two more than it stands for.
 constexpr BoxRow BoxRows[] = {
-    {&Panel::chkBPopup},
     {&Panel::chkBDhtml},
     {&Panel::chkBDialog},
-    {&Panel::chkBBanner},
     {&Panel::chkBFlash},
+    {&Panel::chkBBanner},
+    {&Panel::chkBPopup},
     {&Panel::chkBAdv},
     {&Panel::chkBDialogBox, FollowMessengerAds},
     {&Panel::chkBSpyware, FollowSpyware},
 };
-
-static_assert(std::size(BoxRows) == std::size(Cascade));
 
 struct Assignment {
   BoxMember Box;
@@ -136,7 +130,7 @@ void chkAll_Click(Program& program) {
   if (panel.PanelBusy) return;
   const int state = panel.chkAll.Value();
   if (state == forms::Checked || state == forms::Unchecked) {
-    for (const BoxMember box : Cascade) (panel.*box).SetValue(state);
+    for (const BoxRow& row : BoxRows) (panel.*row.Box).SetValue(state);
   }
   panel.cmdsave.SetEnabled(true);
 }

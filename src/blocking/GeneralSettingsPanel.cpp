@@ -3,6 +3,7 @@
 #include "blocking/BlockingState.h"
 #include "launch/OpenUrl.h"
 #include "program/PanelHosting.h"
+#include "settings/PanelBoxes.h"
 #include "settings/StartWithWindowsRegistry.h"
 #include "settings/bmdlReg.h"
 #include "settings/bmdlSave.h"
@@ -16,16 +17,6 @@ using program::Program;
 using Panel = windows::FrmFrameSettings;
 
 constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-
-struct DefaultRow {
-  forms::CheckBox Panel::*Box;
-  int State;
-};
-
-constexpr DefaultRow Defaults[] = {
-    {&Panel::chkGLog, 1},      {&Panel::chkGShowToolbar, 1}, {&Panel::chkGUpdate, 0},
-    {&Panel::chkGSWindows, 0}, {&Panel::chkGHideSystray, 0}, {&Panel::chkScript, 1},
-};
 
 void AddRunEntry(Program& program, const std::string& name, const std::string& path) {
   platform::Registry& registry = program.platform.registry;
@@ -75,18 +66,16 @@ void SetStartWithWindows(Program& program) {
 }
 
 void cmdresetSettings_Click(Program& program) {
-  Panel& panel = *program.windows.FrmFrameSettings;
-  for (const DefaultRow& row : Defaults) (panel.*row.Box).SetValue(row.State);
+  settings::ResetBoxes(program, program.windows.FrmFrameSettings);
+  program.windows.FrmFrameSettings->chkScript.SetValue(forms::Checked);
 }
 
 void Attach(Program& program, Panel& form) {
   form.Load = [&program, &form] { program::HostPanel(program, form); };
-  form.chkGHideSystray.Click = [&program] { settings::SaveGeneralSettingsGuarded(program); };
-  form.chkGUpdate.Click = [&program] { settings::SaveGeneralSettingsGuarded(program); };
   form.chkGSWindows.Click = [&program] { chkGSWindows_Click(program); };
-  form.chkGLog.Click = [&program] { settings::SaveBlockSettingsGuarded(program); };
   form.chkGShowToolbar.Click = [&program] { chkGShowToolbar_Click(program); };
   form.chkScript.Click = [&program] { chkScript_Click(program); };
+  settings::SaveOnClick(program, program.windows.FrmFrameSettings, form);
   form.cmdresetSettings.Click = [&program] { cmdresetSettings_Click(program); };
   form.cmdtoolbar.Click = [&program] { program.windows.frmcustom->Show(); };
   form.Command4.Click = [&program] { launch::Open(program, launch::UpdatesPage); };

@@ -2,6 +2,7 @@
 
 #include "blocking/bmdlsound.h"
 #include "program/PanelHosting.h"
+#include "settings/PanelBoxes.h"
 #include "settings/bmdlSave.h"
 #include "text/ScopedFlag.h"
 #include "windows/FrmFrameNotification.h"
@@ -17,14 +18,6 @@ using BoxMember = forms::CheckBox Panel::*;
 // The boxes that "Don't Notify at all" clears, in its order.
 constexpr BoxMember Notifications[] = {&Panel::chkNMC, &Panel::chkNPH, &Panel::chkNPHF,
                                        &Panel::chkNS, &Panel::chkNW};
-
-struct DefaultRow {
-  BoxMember Box;
-  int State;
-};
-
-constexpr DefaultRow Defaults[] = {
-    {&Panel::chkNW, 0}, {&Panel::chkNS, 1}, {&Panel::chkNPH, 1}, {&Panel::chkNPHF, 1}};
 
 // Any notification ends "Don't Notify at all".
 void EndSilence(Panel& panel, const forms::CheckBox& box) {
@@ -67,7 +60,8 @@ void chkNAll_Click(Program& program) {
 void chkNS_Click(Program& program) {
   Panel& panel = *program.windows.FrmFrameNotification;
   EndSilence(panel, panel.chkNS);
-  // A load ticks and clears the box on its way; the list is meant to stay visible then.
+  // A load with a stored sound ticks the box by the sound's name and clears it by the switch, and
+  // each raises this event. The list is meant to stay visible through a load all the same.
   if (!program.LoadingSettings) {
     panel.cmbsound.SetVisible(panel.chkNS.Value() != forms::Unchecked);
   }
@@ -80,8 +74,7 @@ void cmbsound_Click(Program& program) {
 }
 
 void cmdDefaultNotify_Click(Program& program) {
-  Panel& panel = *program.windows.FrmFrameNotification;
-  for (const DefaultRow& row : Defaults) (panel.*row.Box).SetValue(row.State);
+  settings::ResetBoxes(program, program.windows.FrmFrameNotification);
 }
 
 void cmbsound_Validate(Program& program, bool& keepFocus) {

@@ -2,7 +2,7 @@
 
 #include "blocking/BlockingState.h"
 #include "launch/OpenUrl.h"
-#include "settings/bmdlSave.h"
+#include "settings/PanelBoxes.h"
 #include "statistics/RefreshCounters.h"
 #include "windows/FrmFrameBlockPreferences.h"
 #include "windows/FrmFrameMain.h"
@@ -36,8 +36,6 @@ void cmdtest_Click(Program& program) {
   launch::Open(program, launch::PopupTestPage);
 }
 
-void ChkMinimize_Click(Program& program) { settings::SaveGeneralSettingsGuarded(program); }
-
 void Attach(Program& program, Panel& form) {
   form.cmdstart.Click = [&program] { mnustart_Click(program); };
   form.cmdstop.Click = [&program] { mnustop_Click(program); };
@@ -45,7 +43,7 @@ void Attach(Program& program, Panel& form) {
   for (const OptionRow& row : OptionRows) {
     (form.*row.Option).Click = [&program, &row] { ChoosePreset(program, row); };
   }
-  form.ChkMinimize.Click = [&program] { ChkMinimize_Click(program); };
+  settings::SaveOnClick(program, program.windows.FrmFrameMain, form);
   form.Timer1.Tick = [&program] { statistics::RefreshCounters(program); };
   form.Activate = [&program] { statistics::RefreshCounters(program); };
 }

@@ -11,9 +11,6 @@ namespace vantrel::blocking {
 // both pass through.
 void cmdtest_Click(program::Program& program);
 
-// Saves the general settings unless they are being loaded; an error shows the information box.
-void ChkMinimize_Click(program::Program& program);
-
 // Binds all of the panel's events but Load, Unload and MouseMove.
 void Attach(program::Program& program, windows::FrmFrameMain& form);
 

@@ -10,7 +10,7 @@ namespace {
 void FillIfMissing(program::Program& program, const Section& section) {
   if (!IsMissing(program, section.Key, section.Marker)) return;
   CreateRegistryKey(program.platform.registry, platform::HKeyCurrentUser, section.Key);
-  for (const ValueRow& row : section.Rows) {
+  for (const Setting& row : section.Rows) {
     WriteValue(program, section.Key, row.Name, row.FirstRun);
   }
   if (section.ResetsTotal) program.TotalBlocked = 0;

@@ -25,10 +25,12 @@ struct Writer {
   void operator()(Nothing /*unused*/) const {}
   void operator()(Number number) const { WriteNumber(number.Value); }
   void operator()(TextValue text) const { UpdateText(text.Text); }
-  void operator()(BoxState state) const { WriteNumber(state.Box(Program.windows).Value()); }
-  void operator()(NumberThenTick row) const {
+  void operator()(const BoxState& state) const {
+    WriteNumber(state.Box.In(Program.windows).Value());
+  }
+  void operator()(const NumberThenTick& row) const {
     WriteNumber(row.Value);
-    row.Box(Program.windows).SetValue(forms::Checked);
+    row.Box.In(Program.windows).SetValue(forms::Checked);
   }
   void operator()(SelectedSound /*unused*/) const {
     UpdateText(Program.windows.FrmFrameNotification->cmbsound.Text());

@@ -1,7 +1,5 @@
 #include "settings/bmdlSave.h"
 
-#include <span>
-
 #include "settings/Schema.h"
 #include "settings/WriteValue.h"
 #include "settings/bmdlReg.h"
@@ -11,11 +9,11 @@ namespace {
 
 using program::Program;
 
-void SaveKey(Program& program, const std::string& key, std::span<const ValueRow> rows) {
-  if (IsMissing(program, key, FilledMarker)) {
-    CreateRegistryKey(program.platform.registry, platform::HKeyCurrentUser, key);
+void SaveSection(Program& program, const Section& section) {
+  if (IsMissing(program, section.Key, FilledMarker)) {
+    CreateRegistryKey(program.platform.registry, platform::HKeyCurrentUser, section.Key);
   }
-  for (const ValueRow& row : rows) WriteValue(program, key, row.Name, row.Save);
+  for (const Setting& row : section.Rows) WriteValue(program, section.Key, row.Name, row.Save);
 }
 
 bool Guarded(Program& program, void (*save)(Program&)) {
@@ -31,14 +29,19 @@ bool Guarded(Program& program, void (*save)(Program&)) {
 
 }  // namespace
 
-void SaveBlockSettings(Program& program) { SaveKey(program, BlockSettingsKey, BlockSettingsRows); }
+void SaveBlockSettings(Program& program) { SaveSection(program, BlockSection); }
 
-void SaveGeneralSettings(Program& program) { SaveKey(program, SettingsKey, SettingsRows); }
+void SaveGeneralSettings(Program& program) { SaveSection(program, GeneralSection); }
 
 bool SaveBlockSettingsGuarded(Program& program) { return Guarded(program, SaveBlockSettings); }
 
 bool SaveGeneralSettingsGuarded(Program& program) { return Guarded(program, SaveGeneralSettings); }
 
 void SaveNotificationGuarded(Program& program) { SaveBlockSettingsGuarded(program); }
+
+void SaveDisabled(Program& program) {
+  WriteRegistryValue(program.platform.registry, platform::HKeyCurrentUser, BlockSection.Key,
+                     DisabledValue, 1, platform::RegDword);
+}
 
 }  // namespace vantrel::settings

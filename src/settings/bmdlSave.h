@@ -22,6 +22,9 @@ bool SaveGeneralSettingsGuarded(program::Program& program);
 // The guarded save of the notification's handlers.
 void SaveNotificationGuarded(program::Program& program);
 
+// Stores that the engine is to rest, whatever the state: a part of every close. Fails silently.
+void SaveDisabled(program::Program& program);
+
 }  // namespace vantrel::settings
 
 #endif  // VANTREL_SETTINGS_BMDLSAVE_H_

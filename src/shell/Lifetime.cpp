@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "settings/Schema.h"
-#include "settings/bmdlReg.h"
+#include "settings/bmdlSave.h"
 #include "shell/Navigation.h"
 #include "windows/FrmFrameSettings.h"
 #include "windows/frmMain.h"
@@ -15,11 +14,6 @@ namespace {
 using program::Program;
 
 constexpr int GwlWndProc = -4;
-
-void WriteDisabled(Program& program) {
-  settings::WriteRegistryValue(program.platform.registry, platform::HKeyCurrentUser,
-                               settings::BlockSettingsKey, "GDisabled", 1, platform::RegDword);
-}
 
 void frmMain_Resize(windows::frmMain& form) {
   if (form.WindowState() != forms::WindowState::Normal) return;
@@ -32,7 +26,7 @@ void HideToTray(Program& program, bool& cancel) {
   HideAll(program);
   program.windows.frmMain->Hide();
   cancel = true;
-  WriteDisabled(program);
+  settings::SaveDisabled(program);
   RestoreWindowProc(program, *program.windows.frmMain);
 }
 
@@ -40,7 +34,7 @@ void CloseForGood(Program& program) {
   RestoreWindowProc(program, *program.windows.frmMain);
   program.windows.frmMain->Unload();
   // Once more, for the case that the unload returned.
-  WriteDisabled(program);
+  settings::SaveDisabled(program);
   UnloadAllForms(program);
   program.toolkit.End();
 }
@@ -55,7 +49,7 @@ void frmMain_QueryUnload(Program& program, bool& cancel, int mode) {
 }
 
 void frmMain_Unload(Program& program, windows::frmMain& form) {
-  WriteDisabled(program);
+  settings::SaveDisabled(program);
   UnloadAllForms(program);
   form.Unload();
   program.toolkit.End();

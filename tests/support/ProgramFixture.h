@@ -14,6 +14,7 @@
 #include "platform/memory/Process.h"
 #include "platform/memory/World.h"
 #include "program/Program.h"
+#include "support/ExpectedSettings.h"
 
 namespace vantrel::test {
 
@@ -45,6 +46,20 @@ inline void FillMachine(platform::memory::World& world) {
                            "\"C:\\Program Files\\Browser\\browser.exe\" -nohome");
   world.programs.Register("C:\\Program Files\\Browser\\browser.exe", {});
   world.files.MakeFolder("C:\\Program Files\\Vantrel\\Settings");
+}
+
+// The settings tree as a first run leaves it.
+inline void StoreFirstRun(platform::memory::World& world) {
+  for (const ExpectedSetting& setting : ExpectedSettings) {
+    const std::string key = std::string(RootKey) + "\\" + setting.Key;
+    if (const int* number = std::get_if<int>(&setting.FirstRun)) {
+      world.registry.SetDword(platform::HKeyCurrentUser, key, setting.Name,
+                              static_cast<std::uint32_t>(*number));
+    }
+    if (const char* const* text = std::get_if<const char*>(&setting.FirstRun)) {
+      world.registry.SetString(platform::HKeyCurrentUser, key, setting.Name, *text);
+    }
+  }
 }
 
 // One running copy in a world.

@@ -1,47 +1,36 @@
 #include "support/FirstRun.h"
 
-#include <initializer_list>
-#include <utility>
+#include <algorithm>
+#include <cctype>
+
+#include "support/ExpectedSettings.h"
 
 namespace vantrel::e2e {
+namespace {
+
+std::string Lower(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+  return text;
+}
+
+}  // namespace
 
 Tree FirstRunTree() {
   Tree tree;
-  for (const char* key : {"block settings\\", "settings\\", "block log\\", "toolbar settings\\"}) {
+  for (const test::ExpectedSetting& setting : test::ExpectedSettings) {
+    const std::string key = Lower(setting.Key) + "\\";
     tree[key] = {};
-  }
-  const auto numbers = [&tree](const std::string& key,
-                               std::initializer_list<std::pair<const char*, int>> values) {
-    for (const auto& [name, value] : values) {
-      tree[key + name] = Dword(static_cast<std::uint32_t>(value));
+    if (const int* number = std::get_if<int>(&setting.FirstRun)) {
+      tree[key + Lower(setting.Name)] = Dword(static_cast<std::uint32_t>(*number));
     }
-  };
-  numbers("block settings\\", {{"bpid", 1},
-                               {"popup", 1},
-                               {"dhtml", 1},
-                               {"webdialog", 1},
-                               {"banner", 1},
-                               {"flash", 1},
-                               {"adv", 0},
-                               {"dialogbox", 1},
-                               {"keepalog", 1},
-                               {"shownotification", 0},
-                               {"showsound", 0},
-                               {"showph", 0},
-                               {"showphf", 0},
-                               {"gdisabled", 0},
-                               {"spy", 1}});
+    if (const char* const* text = std::get_if<const char*>(&setting.FirstRun)) {
+      tree[key + Lower(setting.Name)] = Text(*text);
+    }
+  }
+  // The start has loaded the sound, as its list spells it, and pressed Start.
   tree["block settings\\nsounds"] = Text("alert");
-  numbers("settings\\", {{"hidesystem", 0},
-                         {"startwithwindows", 1},
-                         {"checkupdates", 0},
-                         {"showbrowser", 1},
-                         {"minimize", 0}});
-  numbers("block log\\",
-          {{"popup", 0}, {"dhtml", 0}, {"webdialog", 0}, {"bannerads", 0}, {"flash", 0}});
-  tree["toolbar settings\\toolbar name"] = Text("Vantrel");
-  tree["toolbar settings\\toolbar settings"] =
-      Text("1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19");
+  tree["block settings\\gdisabled"] = Dword(0);
   return tree;
 }
 

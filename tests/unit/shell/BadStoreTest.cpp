@@ -14,46 +14,24 @@ using test::BlockSettings;
 using test::Machine;
 using test::Settings;
 
-constexpr const char* ToolbarSettings = "Software\\Qorvel Softwares\\Toolbar Settings";
-
 struct Value {
   platform::KeyHandle root;
-  const char* key;
-  const char* name;
+  std::string key;
+  std::string name;
 };
 
-constexpr Value Values[] = {
-    {HKeyCurrentUser, BlockSettings, "BpId"},
-    {HKeyCurrentUser, BlockSettings, "Popup"},
-    {HKeyCurrentUser, BlockSettings, "DHTML"},
-    {HKeyCurrentUser, BlockSettings, "WebDialog"},
-    {HKeyCurrentUser, BlockSettings, "Banner"},
-    {HKeyCurrentUser, BlockSettings, "Flash"},
-    {HKeyCurrentUser, BlockSettings, "Adv"},
-    {HKeyCurrentUser, BlockSettings, "DialogBox"},
-    {HKeyCurrentUser, BlockSettings, "KeepaLog"},
-    {HKeyCurrentUser, BlockSettings, "ShowNotification"},
-    {HKeyCurrentUser, BlockSettings, "NSounds"},
-    {HKeyCurrentUser, BlockSettings, "ShowSound"},
-    {HKeyCurrentUser, BlockSettings, "ShowPH"},
-    {HKeyCurrentUser, BlockSettings, "ShowPHF"},
-    {HKeyCurrentUser, BlockSettings, "GDisabled"},
-    {HKeyCurrentUser, BlockSettings, "Spy"},
-    {HKeyCurrentUser, Settings, "BpId"},
-    {HKeyCurrentUser, Settings, "HideSystem"},
-    {HKeyCurrentUser, Settings, "StartWithWindows"},
-    {HKeyCurrentUser, Settings, "CheckUpdates"},
-    {HKeyCurrentUser, Settings, "ShowBrowser"},
-    {HKeyCurrentUser, Settings, "Minimize"},
-    {HKeyCurrentUser, BlockLog, "Popup"},
-    {HKeyCurrentUser, BlockLog, "DHTML"},
-    {HKeyCurrentUser, BlockLog, "WebDialog"},
-    {HKeyCurrentUser, BlockLog, "BannerAds"},
-    {HKeyCurrentUser, BlockLog, "Flash"},
-    {HKeyCurrentUser, ToolbarSettings, "Toolbar Name"},
-    {HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger"},
-    {HKeyLocalMachine, "SOFTWARE\\Microsoft\\Internet Explorer", "Version"},
-};
+// Every value that a start reads.
+std::vector<Value> Values() {
+  std::vector<Value> values{
+      {HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger"},
+      {HKeyLocalMachine, "SOFTWARE\\Microsoft\\Internet Explorer", "Version"},
+  };
+  for (const test::ExpectedSetting& setting : test::ExpectedSettings) {
+    values.push_back(
+        {HKeyCurrentUser, std::string(test::RootKey) + "\\" + setting.Key, setting.Name});
+  }
+  return values;
+}
 
 struct Breakage {
   const char* name;
@@ -82,9 +60,9 @@ void ExpectSurvived(Machine& machine) {
 }
 
 TEST(BadStore, AnyValueBrokenInAnyWayLeavesAWindowThatWorks) {
-  for (const Value& value : Values) {
+  for (const Value& value : Values()) {
     for (const Breakage& breakage : Breakages) {
-      SCOPED_TRACE(std::string(value.name) + " has " + breakage.name);
+      SCOPED_TRACE(value.name + " has " + breakage.name);
       Machine machine;
       machine.StoreChoices();
       machine.world.registry.Set(value.root, value.key, value.name, breakage.type, breakage.data);
@@ -100,7 +78,7 @@ TEST(BadStore, AnyValueBrokenInAnyWayLeavesAWindowThatWorks) {
 }
 
 TEST(BadStore, AnyValueMissingLeavesAWindowThatWorks) {
-  for (const Value& value : Values) {
+  for (const Value& value : Values()) {
     SCOPED_TRACE(value.name);
     Machine machine;
     machine.StoreChoices();

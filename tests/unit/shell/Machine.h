@@ -23,26 +23,18 @@ class Machine : public ShellTest {
 
   // A store that another run has left, with choices other than the design's.
   void StoreChoices() {
-    for (const char* name : {"BpId", "Popup", "DHTML", "WebDialog", "Banner", "DialogBox", "Adv",
-                             "KeepaLog", "ShowSound", "GDisabled", "Spy"}) {
+    StoreFirstRun(world);
+    for (const char* name : {"Adv", "ShowSound"}) {
       world.registry.SetDword(platform::HKeyCurrentUser, BlockSettings, name, 1);
     }
-    for (const char* name : {"Flash", "ShowNotification", "ShowPH", "ShowPHF"}) {
-      world.registry.SetDword(platform::HKeyCurrentUser, BlockSettings, name, 0);
-    }
+    world.registry.SetDword(platform::HKeyCurrentUser, BlockSettings, "Flash", 0);
     world.registry.SetString(platform::HKeyCurrentUser, BlockSettings, "NSounds", "double");
-    for (const char* name : {"BpId", "HideSystem", "StartWithWindows", "ShowBrowser"}) {
+    for (const char* name : {"BpID", "HideSystem"}) {
       world.registry.SetDword(platform::HKeyCurrentUser, Settings, name, 1);
-    }
-    for (const char* name : {"CheckUpdates", "Minimize"}) {
-      world.registry.SetDword(platform::HKeyCurrentUser, Settings, name, 0);
     }
     for (const char* name : {"Popup", "DHTML", "WebDialog", "BannerAds", "Flash"}) {
       world.registry.SetDword(platform::HKeyCurrentUser, BlockLog, name, 12);
     }
-    world.registry.SetString(platform::HKeyCurrentUser,
-                             "Software\\Qorvel Softwares\\Toolbar Settings", "Toolbar Name",
-                             "Vantrel");
     world.registry.SetString(platform::HKeyCurrentUser, ScriptKey, "Disable Script Debugger", "no");
   }
   void Make() {

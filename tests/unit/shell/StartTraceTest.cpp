@@ -150,22 +150,18 @@ class StartTrace : public test::ShellTest {
     return Tell([&copy] { Start(copy.program); });
   }
 
-  // Another user's choices, each of them other than what the boxes are designed with.
+  // Another user's choices, each of them other than what the boxes are designed with, but for the
+  // log, which a first run switches on.
   void StoreChoices() {
     { StartCopy(); }
-    for (const char* name :
-         {"Popup", "DHTML", "WebDialog", "Banner", "Flash", "DialogBox", "KeepaLog", "Spy"}) {
-      world.registry.SetDword(HKeyCurrentUser, BlockSettings, name, 0);
+    for (const test::ExpectedSetting& setting : test::ExpectedSettings) {
+      if (!HasBox(setting)) continue;
+      world.registry.SetDword(HKeyCurrentUser, std::string(test::RootKey) + "\\" + setting.Key,
+                              setting.Name, setting.Design == 0 ? 1 : 0);
     }
-    for (const char* name : {"Adv", "ShowNotification", "ShowSound", "ShowPH", "ShowPHF"}) {
-      world.registry.SetDword(HKeyCurrentUser, BlockSettings, name, 1);
-    }
+    world.registry.SetDword(HKeyCurrentUser, BlockSettings, "KeepaLog", 0);
     world.registry.SetString(HKeyCurrentUser, BlockSettings, "NSounds", "Double");
-    for (const char* name :
-         {"BpId", "HideSystem", "StartWithWindows", "CheckUpdates", "Minimize"}) {
-      world.registry.SetDword(HKeyCurrentUser, Settings, name, 1);
-    }
-    world.registry.SetDword(HKeyCurrentUser, Settings, "ShowBrowser", 0);
+    world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
     world.registry.SetDword(HKeyCurrentUser, test::BlockLog, "Popup", 300);
     world.registry.SetString(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger", "no");
     world.registry.MakeKey(HKeyLocalMachine,
@@ -275,10 +271,11 @@ TEST_F(StartTrace, TheTwoRoutesOfAStart) {
   const auto copy = Listened();
   Start(copy->program);
   copy->Windows().FrmFrameMain->Timer1.SetEnabled(false);
-  ExpectGolden("start-through-stop", Tell([&] { StartThroughStop(copy->program); }));
+  std::string told = "StartThroughStop\n" + Tell([&] { StartThroughStop(copy->program); });
   blocking::mnustop_Click(copy->program);
   copy->Windows().FrmFrameMain->Timer1.SetEnabled(false);
-  ExpectGolden("start-without-stop", Tell([&] { StartWithoutStop(copy->program); }));
+  told += "StartWithoutStop\n" + Tell([&] { StartWithoutStop(copy->program); });
+  ExpectGolden("start-routes", told);
 }
 
 TEST_F(StartTrace, TheStartsOwnSizeReplacesOneOfMeanwhile) {
