@@ -54,6 +54,9 @@ class Desktop {
   virtual void SendTextMessageA(WindowHandle window, std::uint32_t message, std::uintptr_t first,
                                 const std::string& text) = 0;
 
+  // Sets a value of the window's record. 0 as window procedure (index -4) is no procedure and is
+  // not handed on to the system, which would call it with the next message: the window stays as it
+  // is.
   virtual void SetWindowLongA(WindowHandle window, int index, std::int32_t value) = 0;
 
   virtual void keybd_event(std::uint8_t key, std::uint8_t scan, std::uint32_t flags,

@@ -28,8 +28,8 @@ constexpr int StartWidth = 9300;
 constexpr int StartHeight = 6998;
 constexpr double OldestBrowser = 6;
 
-// Only the first character counts: version 10 is refused like version 1. This is meant. A damaged
-// value opens no gate.
+// Only the first character counts: version 10 is refused like version 1. This is meant. A value
+// that cannot be read (one of no bytes) opens no gate: it is refused like a missing one.
 bool BrowserIsRecent(Program& program) {
   std::string version;
   text::ErrorTrap trap;

@@ -41,7 +41,8 @@ namespace FrmFrameLog {
 
 // The detail log's own routine of that name, which is meant to read nothing: without a block log
 // it writes zeros and shows the total of the boxes as they are; with one it does nothing. The same
-// errors for a box without a number.
+// errors for a box without a number. A start that finds no block log and can make none therefore
+// shows the design texts of the boxes and their total.
 void GetBlockLog(program::Program& program);
 
 }  // namespace FrmFrameLog

@@ -69,6 +69,21 @@ TEST_F(Notification, TickingAnyBoxEndsDontNotifyAndLeavesTheOthers) {
   }
 }
 
+TEST_F(Notification, EachBoxEndsDontNotifyBeforeItSaves) {
+  for (forms::CheckBox* box : {&Panel().chkNW, &Panel().chkNS, &Panel().chkNPH, &Panel().chkNPHF}) {
+    Panel().chkNAll.SetValue(1);
+    process.Trace().Clear();
+    std::vector<long> savesBefore;
+    toolkit.Trace = [&](const std::string& line) {
+      if (line == "FrmFrameNotification.chkNAll Value=0") savesBefore.push_back(BlockSaves());
+    };
+    Click(*box);
+    toolkit.Trace = nullptr;
+    EXPECT_THAT(savesBefore, ElementsAre(0)) << box->Name();
+    EXPECT_EQ(BlockSaves(), 1) << box->Name();
+  }
+}
+
 TEST_F(Notification, TheCursorBoxEndsDontNotifyAndSavesNothing) {
   Panel().chkNAll.SetValue(1);
   Panel().chkNMC.SetValue(1);
@@ -141,6 +156,19 @@ TEST_F(Notification, AStoredClearSoundLeavesTheListVisible) {
   Click(Panel().chkNS);
   Click(Panel().chkNS);
   EXPECT_FALSE(Panel().cmbsound.Visible());
+}
+
+TEST_F(Notification, ASoundOnThatIsLoadedLeavesAHiddenListHidden) {
+  Click(Panel().chkNS);
+  Click(Panel().chkNS);
+  ASSERT_FALSE(Panel().cmbsound.Visible());
+  SetNumber("Block Settings", "ShowSound", 1);
+  SetText("Block Settings", "NSounds", "pop");
+  program.LoadingSettings = true;
+  settings::LoadBlockSettings(program);
+  program.LoadingSettings = false;
+  EXPECT_EQ(Panel().chkNS.Value(), 1);
+  EXPECT_FALSE(Panel().cmbsound.Visible()) << "a load leaves the list as it is, either way";
 }
 
 TEST_F(Notification, DefaultSetsTheFourBoxesAndKeepsTheSound) {

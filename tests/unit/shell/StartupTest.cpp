@@ -3,7 +3,9 @@
 #include "shell/Lifetime.h"
 #include "unit/shell/ShellTest.h"
 #include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameGraph.h"
 #include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameLog.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameNotification.h"
 #include "windows/FrmFrameSettings.h"
@@ -184,6 +186,122 @@ TEST_F(Startup, ToggleAtFirstStartPressesStartBeforeTheSettingsExist) {
   EXPECT_TRUE(EngineEntryStands());
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 0U);
   EXPECT_TRUE(copy->Windows().frmMain->Visible());
+}
+
+// The key as a whole is saved before the start has looked at it.
+TEST_F(Startup, ToggleAtFirstStartSavesTheDesignStatesTwice) {
+  auto copy = StartCopy("/onoff");
+  long saves = 0;
+  for (const std::string& line : copy->process.Trace().LinesOf("RegSetValueExA")) {
+    saves += line.find("Block Settings \"BpID\"") != std::string::npos ? 1 : 0;
+  }
+  EXPECT_EQ(saves, 2);
+  EXPECT_EQ(Number(BlockSettings, "KeepaLog"), 0U) << "there is no first run that ticks the log";
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkGLog.Value(), 0);
+  EXPECT_EQ(Number(Settings, "HideSystem"), 0U) << "the other keys are filled";
+}
+
+TEST_F(Startup, ToggleAtAStartPutsTheDesignStatesOverAStoredTree) {
+  { StartCopy(); }
+  world.registry.SetDword(HKeyCurrentUser, BlockSettings, "Popup", 0);
+  world.registry.SetDword(HKeyCurrentUser, BlockSettings, "Adv", 1);
+  world.registry.SetString(HKeyCurrentUser, BlockSettings, "NSounds", "pop");
+  world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
+  world.registry.SetDword(HKeyCurrentUser, Settings, "HideSystem", 1);
+  auto copy = StartCopy("/onoff");
+  for (const test::ExpectedSetting& setting : test::ExpectedSettings) {
+    if (!HasBox(setting) || !IsIn(setting, "Block Settings")) continue;
+    EXPECT_EQ(Number(BlockSettings, setting.Name), static_cast<unsigned>(setting.Design))
+        << setting.Name;
+  }
+  // No sound is selected, and its value of no bytes ends the load, as any such value does.
+  EXPECT_EQ(world.registry.Get(HKeyCurrentUser, BlockSettings, "NSounds")->data, "");
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkGHideSystray.Value(), 0);
+  EXPECT_EQ(Number(Settings, "HideSystem"), 1U);
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
+}
+
+TEST_F(Startup, MessagesAreLetThroughAfterEachPanel) {
+  { StartCopy(); }  // Over a stored tree no panel is made before its turn.
+  auto copy = MakeCopy();
+  std::vector<std::string> seen;
+  const auto pumped = [&] {
+    const bool behind = !copy->process.Trace().LinesOf("GetVersionExA").empty();
+    seen.emplace_back(behind ? "too late" : "pumped");
+  };
+  copy->toolkit.Trace = [&](const std::string& line) {
+    if (!line.ends_with(" Load") || !line.starts_with("FrmFrame")) return;
+    if (line == "FrmFrameMain Load") return;
+    seen.push_back(line);
+    copy->toolkit.WhenPumped(pumped);
+  };
+  Start(copy->program);
+  // The Graph panel's own first refresh makes the Detail Log panel.
+  EXPECT_THAT(
+      seen, ElementsAre("FrmFrameBlockPreferences Load", "pumped", "FrmFrameSettings Load",
+                        "pumped", "FrmFrameHistory Load", "pumped", "FrmFrameAllowList Load",
+                        "pumped", "FrmFrameNotification Load", "pumped", "FrmFrameIESettings Load",
+                        "pumped", "FrmFrameIEPlugin Load", "pumped", "FrmFrameGraph Load",
+                        "FrmFrameLog Load", "pumped", "pumped"));
+}
+
+TEST_F(Startup, TheLoadRunsUnderItsFlagAndTicksTheScriptBoxBehindIt) {
+  auto copy = StartCopy();
+  copy->program.BlockStopped = 0;
+  copy->Windows().FrmFrameSettings->chkScript.SetValue(0);
+  world.registry.SetDword(HKeyCurrentUser, BlockSettings, "Popup", 0);
+  std::vector<std::string> seen;
+  copy->toolkit.Trace = [&](const std::string& line) {
+    if (line.find(".chkBPopup Value") == std::string::npos &&
+        line.find(".chkScript Value") == std::string::npos) {
+      return;
+    }
+    seen.push_back(line + (copy->program.LoadingSettings ? " while loading, " : ", ") +
+                   std::to_string(copy->program.BlockStopped));
+  };
+  LoadInitialSettings(copy->program);
+  EXPECT_THAT(seen, ElementsAre("FrmFrameBlockPreferences.chkBPopup Value=0 while loading, 1",
+                                "FrmFrameSettings.chkScript Value=1, 1"));
+  EXPECT_FALSE(copy->program.LoadingSettings);
+}
+
+TEST_F(Startup, ALoadThatFailsLeavesTheScriptBoxAlone) {
+  auto copy = StartCopy();
+  copy->program.BlockStopped = 0;
+  copy->Windows().FrmFrameSettings->chkScript.SetValue(0);
+  world.registry.RemoveValue(HKeyCurrentUser, BlockSettings, "Spy");
+  LoadInitialSettings(copy->program);
+  EXPECT_EQ(copy->Windows().FrmFrameSettings->chkScript.Value(), 0);
+  EXPECT_EQ(copy->program.BlockStopped, 1);
+  EXPECT_FALSE(copy->program.LoadingSettings);
+}
+
+TEST_F(Startup, AStoredTwoIsNeitherSetNorClear) {
+  { StartCopy(); }
+  world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
+  for (const char* name : {"ShowBrowser", "Minimize", "HideSystem"}) {
+    world.registry.SetDword(HKeyCurrentUser, Settings, name, 2);
+  }
+  auto copy = StartCopy();
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+  EXPECT_FALSE(copy->Windows().FrmFrameSettings->lblviewtoolbar.Visible());
+  // The box's own handler takes the toolbar away, and Start adds it again.
+  EXPECT_THAT(BoxTexts(*copy),
+              ElementsAre("The changes may require a restart of Internet Explorer"));
+  EXPECT_EQ(world.registry.GetString(HKeyLocalMachine, test::ToolbarKey, test::ToolbarId),
+            "Vantrel Toolbar");
+  EXPECT_TRUE(copy->user.Close(*copy->Windows().frmMain));
+  EXPECT_TRUE(copy->toolkit.Ending()) << "only 1 hides the window to the tray";
+}
+
+TEST_F(Startup, AStoreThatCanHaveNoBlockLogShowsTheDesignTextsAndTheirTotal) {
+  world.registry.Refuse(HKeyCurrentUser, "", platform::memory::Refusal::Write);
+  auto copy = StartCopy();
+  EXPECT_EQ(copy->Windows().FrmFrameGraph->txtPop.Text(), "59");
+  EXPECT_EQ(copy->Windows().FrmFrameMain->lblno.Caption(), "285");
+  EXPECT_EQ(copy->Windows().FrmFrameGraph->lbltotallog.Caption(), "Total: 285 Ads blocked.");
+  EXPECT_EQ(copy->Windows().FrmFrameLog->lstLog.Item(1).Sub(1).Text, "59");
+  EXPECT_THAT(BoxTexts(*copy), IsEmpty());
 }
 
 TEST_F(Startup, TheToolbarCommandAtFirstStartLeavesTheDialogAlone) {
