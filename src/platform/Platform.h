@@ -3,9 +3,11 @@
 #ifndef VANTREL_PLATFORM_PLATFORM_H_
 #define VANTREL_PLATFORM_PLATFORM_H_
 
+#include "platform/BinaryFiles.h"
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
+#include "platform/Folders.h"
 #include "platform/Modules.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
@@ -25,6 +27,8 @@ struct Platform {
   Dialogs& dialogs;
   System& system;
   Modules& modules;
+  Folders& folders;
+  BinaryFiles& binaryFiles;
 };
 
 }  // namespace vantrel::platform

@@ -1,4 +1,4 @@
-// What a process asks about itself and the system it runs on.
+// What a process asks about itself, the system it runs on, its formats and its clock.
 #ifndef VANTREL_PLATFORM_SYSTEM_H_
 #define VANTREL_PLATFORM_SYSTEM_H_
 
@@ -35,6 +35,19 @@ class System {
   // Whether another copy of this program runs in this session. The first call claims the name for
   // this process, so a later copy sees it.
   virtual bool PreviousInstanceRuns() = 0;
+
+  // Windows' own folder, without a trailing backslash.
+  virtual std::string WindowsFolder() = 0;
+
+  // The user's separator of thousands; may be empty.
+  virtual std::string ThousandsSeparator() = 0;
+
+  // Today's date and the time of the day in the user's short formats.
+  virtual std::string ShortDate() = 0;
+  virtual std::string ShortTime() = 0;
+
+  // Milliseconds since the system was started, modulo 2^32.
+  virtual std::uint32_t GetTickCount() = 0;
 };
 
 }  // namespace vantrel::platform

@@ -29,7 +29,7 @@ platform::WindowHandle BoxOwner(const forms::Toolkit& toolkit, Windows& windows)
 }  // namespace
 
 Program::Program(const platform::Platform& platform, forms::Toolkit& toolkit)
-    : platform(platform), toolkit(toolkit), windows(toolkit) {
+    : platform(platform), toolkit(toolkit), fileNumbers(platform.binaryFiles), windows(toolkit) {
   toolkit.OnUntrappedError = [this](const text::RuntimeError& error) {
     ShowUntrapped(*this, error);
   };

@@ -8,6 +8,7 @@
 
 #include "forms/Toolkit.h"
 #include "platform/Platform.h"
+#include "program/FileNumbers.h"
 #include "program/Windows.h"
 
 namespace vantrel::program {
@@ -39,6 +40,8 @@ class Program {
   bool RefreshErrorShown = false;
   // The folder preselected in the folder picker while it is open.
   std::string BrowseStartPath;
+  // The cookies folder as the last scan that found one has it.
+  std::string CookiesFolder;
   // The record of the one tray icon, as it was last handed to the shell.
   platform::NotifyIconData TrayIcon;
   // The record of the main window's own icon, which is never added.
@@ -57,6 +60,10 @@ class Program {
   bool SiteWebDialog = false;
   bool SiteBanner = false;
   bool SiteFlash = false;
+  // How often a product name ran on into the next entry; read by nothing.
+  std::int16_t ProductNameFallbacks = 0;
+  // The files that are open under numbers.
+  FileNumbers fileNumbers;
   // A window procedure; never assigned, so it stays 0.
   std::int32_t OldWindowProc = 0;
 

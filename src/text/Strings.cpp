@@ -60,6 +60,14 @@ std::vector<std::string> Split(std::string_view text, char delimiter) {
   }
 }
 
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = text.find('\n');
+  std::string_view line = text.substr(0, end);
+  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
 std::string GroupedNumber(double number, std::string_view separator) {
   const double whole = std::round(std::fabs(number));
   if (!std::isfinite(whole)) return "0";

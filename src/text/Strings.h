@@ -24,6 +24,10 @@ bool EqualIgnoringCase(std::string_view one, std::string_view other);
 // The pieces between the delimiters; a text without one is one piece, the empty text none.
 std::vector<std::string> Split(std::string_view text, char delimiter);
 
+// Cuts the first line off the text and returns it without its line end, which is a line feed and a
+// carriage return in front of it, if any.
+std::string_view TakeLine(std::string_view& text);
+
 // A whole number in the picture "###,###,###0": grouped by thousands with the separator, at least
 // one digit, a fraction rounded half away from zero.
 std::string GroupedNumber(double number, std::string_view separator);

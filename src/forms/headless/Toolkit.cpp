@@ -57,7 +57,10 @@ void Toolkit::WhenPumped(std::function<void()> event) {
 
 bool Toolkit::Pump() { return desktop_.PumpProcess(process_); }
 
-void Toolkit::PumpMessages() { Pump(); }
+void Toolkit::PumpMessages() {
+  if (DuringDoEvents) AtBorder(DuringDoEvents);
+  Pump();
+}
 
 void Toolkit::ScreenPointerChanged() {
   if (Trace) Trace("Screen MousePointer=" + std::to_string(ScreenPointer()));

@@ -35,6 +35,8 @@ class Toolkit : public forms::Toolkit {
   // Queues an event for the next pump (DoEvents, a box, a modal window, Pump). Events run in the
   // order of their queueing, between the posted messages, each at a border of its own.
   void WhenPumped(std::function<void()> event);
+  // Runs at each DoEvents of the program, before what is queued, at a border of its own.
+  std::function<void()> DuringDoEvents;
   // What the message loop does: lets through all that is queued. False if nothing was.
   bool Pump();
 

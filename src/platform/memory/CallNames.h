@@ -38,6 +38,12 @@ inline constexpr auto CallNames = std::to_array<std::string_view>({
     // Shell
     "Shell_NotifyIconA",
     "ShellExecuteA",
+    "SHGetSpecialFolderLocation",
+    "SHGetPathFromIDListA",
+    "SHBrowseForFolderA",
+    "CoTaskMemFree",
+    "SHEmptyRecycleBinA",
+    "SHUpdateRecycleBinIcon",
     // Files
     "FileExists",
     "FileLength",
@@ -57,6 +63,11 @@ inline constexpr auto CallNames = std::to_array<std::string_view>({
     "ProgramFolder",
     "ProgramName",
     "PreviousInstanceRuns",
+    "WindowsFolder",
+    "ThousandsSeparator",
+    "ShortDate",
+    "ShortTime",
+    "GetTickCount",
     // Modules
     "LoadLibraryA",
     "GetProcAddress",
@@ -66,6 +77,19 @@ inline constexpr auto CallNames = std::to_array<std::string_view>({
     "GetExitCodeThread",
     "ExitThread",
     "CloseHandle",
+    // Folders
+    "FolderExists",
+    "ListFolder",
+    "DeleteFileA",
+    "RemoveDirectoryA",
+    "SetFileAttributesA",
+    "MakeSureDirectoryPathExists",
+    // Binary files
+    "OpenFile",
+    "OpenFileLength",
+    "ReadAt",
+    "WriteAt",
+    "CloseFile",
 });
 
 }  // namespace vantrel::platform::memory

@@ -333,6 +333,7 @@ std::int32_t FileTree::ListMatching(const std::string& pattern,
 
 std::int32_t FileTree::Delete(const std::string& path) {
   const auto node = Find(path);
+  if (node && !node->folder && EndsInSlash(path)) return ErrorInvalidName;
   if (!node) return FolderAbove(path) ? ErrorFileNotFound : ErrorPathNotFound;
   if (node->folder || (node->attributes & AttributeReadOnly) != 0) return ErrorAccessDenied;
   if (node->locked) return ErrorSharingViolation;

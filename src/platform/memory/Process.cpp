@@ -1,8 +1,10 @@
 #include "platform/memory/Process.h"
 
+#include "platform/memory/BinaryFilesView.h"
 #include "platform/memory/CallGate.h"
 #include "platform/memory/DesktopView.h"
 #include "platform/memory/FilesView.h"
+#include "platform/memory/FoldersView.h"
 #include "platform/memory/Misuse.h"
 #include "platform/memory/ModulesView.h"
 #include "platform/memory/ProcessIdentity.h"
@@ -62,9 +64,13 @@ struct Process::Families {
   DialogsView dialogs;
   SystemView system{world, self};
   ModulesView modules;
+  FoldersView folders{world.files};
+  BinaryFilesView binaryFiles{world.files};
 
-  TracedPlatform traced{
-      {registry, desktop, shell, files, processes, sound, dialogs, system, modules}, gate, Names()};
+  TracedPlatform traced{{registry, desktop, shell, files, processes, sound, dialogs, system,
+                         modules, folders, binaryFiles},
+                        gate,
+                        Names()};
 };
 
 Process::Process(World& world, const std::string& executable, const std::string& commandLineTail)
@@ -101,6 +107,8 @@ FaultPlan& Process::Faults() { return families_->gate.faults; }
 memory::Trace& Process::Trace() { return families_->gate.trace; }
 
 std::size_t Process::OpenKeys() const { return families_->registry.OpenKeys(); }
+
+std::size_t Process::OpenFiles() const { return families_->binaryFiles.OpenFiles(); }
 
 std::size_t Process::OpenThreads() const { return families_->modules.OpenThreads(); }
 

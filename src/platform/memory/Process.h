@@ -51,6 +51,7 @@ class Process {
   memory::Trace& Trace();
 
   std::size_t OpenKeys() const;
+  std::size_t OpenFiles() const;
   std::size_t OpenThreads() const;
 
   // Leaves the process's own thread when that calls ExitThread: there is no stack here that could

@@ -20,6 +20,20 @@ bool SystemView::PreviousInstanceRuns() {
   return *previous_;
 }
 
+std::string SystemView::ShortDate() {
+  const LocalTime now = world_.clock.LocalNow();
+  return std::to_string(now.month) + '/' + std::to_string(now.day) + '/' + std::to_string(now.year);
+}
+
+std::string SystemView::ShortTime() {
+  constexpr int Noon = 12;
+  const LocalTime now = world_.clock.LocalNow();
+  const int hour = now.hour % Noon == 0 ? Noon : now.hour % Noon;
+  const std::string minute = std::to_string(now.minute);
+  return std::to_string(hour) + (minute.size() < 2 ? ":0" : ":") + minute +
+         (now.hour < Noon ? " AM" : " PM");
+}
+
 bool SystemView::Claim() {
   const std::string name = text::UpperCase(self_.name);
   world_.claims.insert({name, self_.id});

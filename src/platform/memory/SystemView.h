@@ -19,6 +19,12 @@ class SystemView : public System {
   std::string ProgramFolder() override { return self_.folder; }
   std::string ProgramName() override { return self_.name; }
   bool PreviousInstanceRuns() override;
+  std::string WindowsFolder() override { return "C:\\WINDOWS"; }
+  std::string ThousandsSeparator() override { return world_.thousandsSeparator; }
+  // As in the United States of America.
+  std::string ShortDate() override;
+  std::string ShortTime() override;
+  std::uint32_t GetTickCount() override { return static_cast<std::uint32_t>(world_.clock.Now()); }
 
  private:
   bool Claim();

@@ -280,6 +280,39 @@ class TracedShell : public Traced<Shell> {
         [](std::int32_t code) { return std::clamp(code, 0, 32); }, verb, file, parameters,
         directory, showCommand);
   }
+
+  std::int32_t SHGetSpecialFolderLocation(WindowHandle owner, int folder, ItemList& list) override {
+    return gate_.Code(
+        "SHGetSpecialFolderLocation",
+        [&] { return next_.SHGetSpecialFolderLocation(owner, folder, list); }, Window(owner),
+        folder);
+  }
+
+  bool SHGetPathFromIDListA(ItemList list, std::span<char> buffer) override {
+    return gate_.Value("SHGetPathFromIDListA",
+                       [&] { return next_.SHGetPathFromIDListA(list, buffer); });
+  }
+
+  ItemList SHBrowseForFolderA(const BrowseInfo& info) override {
+    return gate_.Value(
+        "SHBrowseForFolderA", [&] { return next_.SHBrowseForFolderA(info); }, Window(info.Owner),
+        info.Prompt, info.Flags);
+  }
+
+  void CoTaskMemFree(ItemList list) override {
+    gate_.Void("CoTaskMemFree", [&] { next_.CoTaskMemFree(list); });
+  }
+
+  std::int32_t SHEmptyRecycleBinA(WindowHandle owner, const std::string& root,
+                                  std::uint32_t flags) override {
+    return gate_.Code(
+        "SHEmptyRecycleBinA", [&] { return next_.SHEmptyRecycleBinA(owner, root, flags); },
+        Window(owner), root, flags);
+  }
+
+  void SHUpdateRecycleBinIcon() override {
+    gate_.Void("SHUpdateRecycleBinIcon", [&] { next_.SHUpdateRecycleBinIcon(); });
+  }
 };
 
 class TracedFiles : public Traced<Files> {
@@ -378,6 +411,26 @@ class TracedSystem : public Traced<System> {
   bool PreviousInstanceRuns() override {
     return gate_.Value("PreviousInstanceRuns", [&] { return next_.PreviousInstanceRuns(); });
   }
+
+  std::string WindowsFolder() override {
+    return gate_.Sure("WindowsFolder", [&] { return next_.WindowsFolder(); });
+  }
+
+  std::string ThousandsSeparator() override {
+    return gate_.Sure("ThousandsSeparator", [&] { return next_.ThousandsSeparator(); });
+  }
+
+  std::string ShortDate() override {
+    return gate_.Sure("ShortDate", [&] { return next_.ShortDate(); });
+  }
+
+  std::string ShortTime() override {
+    return gate_.Sure("ShortTime", [&] { return next_.ShortTime(); });
+  }
+
+  std::uint32_t GetTickCount() override {
+    return gate_.Sure("GetTickCount", [&] { return next_.GetTickCount(); });
+  }
 };
 
 class TracedModules : public Traced<Modules> {
@@ -436,6 +489,76 @@ class TracedModules : public Traced<Modules> {
   }
 };
 
+class TracedFolders : public Traced<Folders> {
+ public:
+  using Traced::Traced;
+
+  bool FolderExists(const std::string& path) override {
+    return gate_.Value(
+        "FolderExists", [&] { return next_.FolderExists(path); }, path);
+  }
+
+  std::int32_t ListFolder(const std::string& pattern,
+                          std::vector<DirectoryEntry>& entries) override {
+    return gate_.Code(
+        "ListFolder", [&] { return next_.ListFolder(pattern, entries); }, pattern);
+  }
+
+  std::int32_t DeleteFileA(const std::string& path) override {
+    return gate_.Code(
+        "DeleteFileA", [&] { return next_.DeleteFileA(path); }, path);
+  }
+
+  std::int32_t RemoveDirectoryA(const std::string& path) override {
+    return gate_.Code(
+        "RemoveDirectoryA", [&] { return next_.RemoveDirectoryA(path); }, path);
+  }
+
+  std::int32_t SetFileAttributesA(const std::string& path, std::uint32_t attributes) override {
+    return gate_.Code(
+        "SetFileAttributesA", [&] { return next_.SetFileAttributesA(path, attributes); }, path,
+        attributes);
+  }
+
+  bool MakeSureDirectoryPathExists(const std::string& path) override {
+    return gate_.Value(
+        "MakeSureDirectoryPathExists", [&] { return next_.MakeSureDirectoryPathExists(path); },
+        path);
+  }
+};
+
+class TracedBinaryFiles : public Traced<BinaryFiles> {
+ public:
+  using Traced::Traced;
+
+  std::int32_t OpenFile(const std::string& path, FileAccess access,
+                        OpenFileHandle& opened) override {
+    return gate_.Code(
+        "OpenFile", [&] { return next_.OpenFile(path, access, opened); }, path,
+        access == FileAccess::Read ? "read" : "write");
+  }
+
+  std::uint64_t FileLength(OpenFileHandle file) override {
+    return gate_.Value("OpenFileLength", [&] { return next_.FileLength(file); });
+  }
+
+  std::int32_t ReadAt(OpenFileHandle file, std::uint64_t offset, std::span<char> buffer,
+                      std::size_t& count) override {
+    count = 0;  // as after a failure
+    return gate_.Code(
+        "ReadAt", [&] { return next_.ReadAt(file, offset, buffer, count); }, offset, buffer.size());
+  }
+
+  std::int32_t WriteAt(OpenFileHandle file, std::uint64_t offset, std::string_view bytes) override {
+    return gate_.Code(
+        "WriteAt", [&] { return next_.WriteAt(file, offset, bytes); }, offset, bytes.size());
+  }
+
+  void CloseFile(OpenFileHandle file) override {
+    gate_.Void("CloseFile", [&] { next_.CloseFile(file); });
+  }
+};
+
 }  // namespace
 
 struct TracedPlatform::Decorators {
@@ -449,7 +572,10 @@ struct TracedPlatform::Decorators {
         dialogs(next.dialogs, gate, names),
         system(next.system, gate, names),
         modules(next.modules, gate, names),
-        all{registry, desktop, shell, files, processes, sound, dialogs, system, modules} {}
+        folders(next.folders, gate, names),
+        binaryFiles(next.binaryFiles, gate, names),
+        all{registry, desktop, shell,   files,   processes,  sound,
+            dialogs,  system,  modules, folders, binaryFiles} {}
 
   TracedRegistry registry;
   TracedDesktop desktop;
@@ -460,6 +586,8 @@ struct TracedPlatform::Decorators {
   TracedDialogs dialogs;
   TracedSystem system;
   TracedModules modules;
+  TracedFolders folders;
+  TracedBinaryFiles binaryFiles;
   platform::Platform all;
 };
 

@@ -5,11 +5,14 @@
 #ifndef VANTREL_PLATFORM_MEMORY_WORLD_H_
 #define VANTREL_PLATFORM_MEMORY_WORLD_H_
 
+#include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/Shell.h"
 #include "platform/System.h"
 #include "platform/memory/Calls.h"
 #include "platform/memory/Clock.h"
@@ -38,6 +41,12 @@ struct OpenedDocument {
   int showCommand = 0;
 };
 
+// The folder picker while it is open: how it was opened, and the folder that it was told to select.
+struct FolderPicker {
+  BrowseInfo Info;
+  std::string Selected;
+};
+
 struct World {
   World() : programs(files), libraries(files) {}
   World(const World&) = delete;
@@ -53,6 +62,18 @@ struct World {
 
   std::vector<PlayedSound> playedSounds;
   std::vector<OpenedDocument> openedDocuments;
+
+  // The shell's special folders by number, and the paths behind the item lists that are not freed.
+  std::map<int, std::string> specialFolders;
+  std::map<ItemList, std::string> itemLists;
+  ItemList nextItemList = 1;
+  // Chooses in the folder picker; the empty text is a cancel. A picker without it is a misuse.
+  std::function<std::string(const FolderPicker&)> pickFolder;
+  // What lies in the Recycle Bin.
+  std::vector<std::string> recycleBin;
+
+  // The user's formats.
+  std::string thousandsSeparator = ",";
 
   // The calls of all processes.
   Trace trace;

@@ -18,6 +18,8 @@ std::unique_ptr<Sound> MakeSound();
 std::unique_ptr<Dialogs> MakeDialogs();
 std::unique_ptr<System> MakeSystem();
 std::unique_ptr<Modules> MakeModules();
+std::unique_ptr<Folders> MakeFolders();
+std::unique_ptr<BinaryFiles> MakeBinaryFiles();
 
 // A command line's program, without its quotes, and what stands behind it and the blanks after it.
 struct CommandLineParts {

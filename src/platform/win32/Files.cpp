@@ -12,8 +12,6 @@
 namespace vantrel::platform::win32 {
 namespace {
 
-std::int32_t LastError() { return static_cast<std::int32_t>(GetLastError()); }
-
 // What an existing file has to be opened with to be replaced: without its own attributes a
 // hidden one is refused.
 DWORD AttributesToKeep(const std::string& path) {

@@ -10,8 +10,6 @@
 namespace vantrel::platform::win32 {
 namespace {
 
-std::int32_t LastError() { return static_cast<std::int32_t>(GetLastError()); }
-
 // The command line's program and tail, where the application's path may stand unquoted in front.
 CommandLineParts PartsOf(const std::string& application, const std::string& commandLine) {
   if (application.empty() || !commandLine.starts_with(application)) {

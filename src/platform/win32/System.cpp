@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <array>
+
 #include "platform/win32/Adapters.h"
 #include "platform/win32/Handle.h"
 
@@ -17,6 +19,13 @@ std::string ExecutablePath() {
     if (length < path.size()) return path.substr(0, length);
     path.resize(path.size() * 2);
   }
+}
+
+// What a call that fills a buffer has put there; empty if it failed.
+template <typename Fill>
+std::string Text(Fill fill) {
+  std::array<char, 256> buffer{};
+  return fill(buffer.data(), static_cast<int>(buffer.size())) > 0 ? buffer.data() : "";
 }
 
 class SystemAdapter : public System {
@@ -51,6 +60,29 @@ class SystemAdapter : public System {
     if (!claim_.Valid()) Claim();
     return previous_;
   }
+
+  std::string WindowsFolder() override {
+    return Text([](char* buffer, int room) {
+      return GetWindowsDirectoryA(buffer, static_cast<UINT>(room));
+    });
+  }
+  std::string ThousandsSeparator() override {
+    return Text([](char* buffer, int room) {
+      return GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, buffer, room);
+    });
+  }
+  std::string ShortDate() override {
+    return Text([](char* buffer, int room) {
+      return GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, buffer, room);
+    });
+  }
+  std::string ShortTime() override {
+    return Text([](char* buffer, int room) {
+      return GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, nullptr, nullptr, buffer, room);
+    });
+  }
+
+  std::uint32_t GetTickCount() override { return ::GetTickCount(); }
 
  private:
   void Claim() {

@@ -8,8 +8,8 @@ namespace {
 class AllFamilies : public Win32Platform {
  public:
   platform::Platform Platform() override {
-    return {*registry_, *desktop_, *shell_,  *files_,  *processes_,
-            *sound_,    *dialogs_, *system_, *modules_};
+    return {*registry_, *desktop_, *shell_,   *files_,   *processes_,  *sound_,
+            *dialogs_,  *system_,  *modules_, *folders_, *binaryFiles_};
   }
 
  private:
@@ -22,6 +22,8 @@ class AllFamilies : public Win32Platform {
   const std::unique_ptr<Dialogs> dialogs_ = MakeDialogs();
   const std::unique_ptr<System> system_ = MakeSystem();
   const std::unique_ptr<Modules> modules_ = MakeModules();
+  const std::unique_ptr<Folders> folders_ = MakeFolders();
+  const std::unique_ptr<BinaryFiles> binaryFiles_ = MakeBinaryFiles();
 };
 
 }  // namespace
