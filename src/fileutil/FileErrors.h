@@ -14,12 +14,15 @@ struct FileErrorRow {
 };
 
 inline constexpr FileErrorRow FileErrorRows[] = {
-    {2, text::ErrorNumber::FileNotFound},       // no such file
-    {3, text::ErrorNumber::PathNotFound},       // no such folder
-    {5, text::ErrorNumber::PermissionDenied},   // refused
-    {8, text::ErrorNumber::OutOfMemory},        // no memory for the content
-    {32, text::ErrorNumber::PermissionDenied},  // locked by somebody else
-    {112, text::ErrorNumber::DiskFull},         // disk full
+    {2, text::ErrorNumber::FileNotFound},           // no such file
+    {3, text::ErrorNumber::PathNotFound},           // no such folder
+    {5, text::ErrorNumber::PermissionDenied},       // refused
+    {8, text::ErrorNumber::OutOfMemory},            // no memory for the content
+    {32, text::ErrorNumber::PermissionDenied},      // locked by somebody else
+    {112, text::ErrorNumber::DiskFull},             // disk full
+    {123, text::ErrorNumber::BadFileNameOrNumber},  // a name that cannot be
+    {145, text::ErrorNumber::PathFileAccessError},  // a folder that is not empty
+    {267, text::ErrorNumber::PathFileAccessError},  // a file in a folder's place
 };
 
 // The error that belongs to a code other than 0; a device error for one without a row.

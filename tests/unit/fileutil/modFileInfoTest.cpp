@@ -1,0 +1,209 @@
+// The product name of a library, by its bytes, beside a plain transcription of the search.
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "fileutil/modFileInfo.h"
+#include "support/ComponentFixture.h"
+
+namespace vantrel::fileutil {
+namespace {
+
+using namespace std::string_literals;
+
+constexpr const char* Path = "C:\\PLUGINS\\a.dll";
+
+// The text in 16-bit characters, low byte first.
+std::string Wide(std::string_view text) {
+  std::string wide;
+  for (const char c : text) {
+    wide += c;
+    wide += '\0';
+  }
+  return wide;
+}
+
+// One entry of a version resource as it stands behind its length words: type word, key, terminator,
+// alignment, value, terminator.
+std::string Entry(const std::string& key, const std::string& value) {
+  return "\1\0"s + Wide(key) + "\0\0"s + "\0\0"s + Wide(value) + "\0\0"s;
+}
+
+const std::string LandmarkBytes = "\1\0"s + Wide("StringFileInfo") + "\0\0"s;
+
+// The prescribed steps one by one, on a whole text with 1-based positions, 0 for not found.
+struct PlainSearch {
+  int fallbacks = 0;
+
+  static std::size_t InStr(std::size_t from, const std::string& text, const std::string& find) {
+    if (from < 1 || from > text.size()) return 0;
+    const std::size_t at = text.find(find, from - 1);
+    return at == std::string::npos ? 0 : at + 1;
+  }
+
+  std::string Name(const std::string& file) {
+    std::size_t start = InStr(1, file, WidenKey("StringFileInfo"));
+    std::size_t key = 0;
+    std::size_t offset = 26;
+    if (start != 0) {
+      key = InStr(start, file, WidenKey("ProductName"));
+    } else {
+      start = InStr(1, file, "StringFileInfo");
+      if (start == 0) start = 1;
+      key = InStr(start, file, "ProductName");
+      offset = 12;
+    }
+    if (key == 0) return "";
+    const std::size_t value = key + offset;
+    std::size_t end = InStr(value, file, std::string(3, '\0'));
+    if (end == 0) return "";
+    if (file.substr(value - 1, end - value).find("ProductVersion") != std::string::npos) {
+      for (std::size_t i = 1; i <= 255 && value + i <= file.size(); ++i) {
+        if (static_cast<unsigned char>(file[value + i - 1]) < 32) {
+          end = value + i - 1;
+          break;
+        }
+      }
+      ++fallbacks;
+    }
+    return ReplaceAll(file.substr(value - 1, end - value), std::string(1, '\0'), "");
+  }
+};
+
+class ProductName : public test::ComponentFixture {
+ protected:
+  std::string NameIn(const std::string& bytes) {
+    world.files.Put(Path, bytes);
+    const std::string name = GetProductName(program, Path);
+    EXPECT_EQ(name, plain_.Name(bytes));
+    EXPECT_EQ(program.ProductNameFallbacks, plain_.fallbacks);
+    return name;
+  }
+
+ private:
+  PlainSearch plain_;
+};
+
+TEST(WidenKey, TypeWordAndKeyTogetherWithoutTheLastHighByte) {
+  EXPECT_EQ(WidenKey(""), "");
+  EXPECT_EQ(WidenKey("Ab"), "\1\0A\0b"s);
+}
+
+TEST(ReplaceAll, ReplacesAsLongAsThereIsOne) {
+  EXPECT_EQ(ReplaceAll("a&b&&c", "&", ""), "abc");
+  EXPECT_EQ(ReplaceAll("aabb", "ab", ""), "");
+  EXPECT_EQ(ReplaceAll("abc", "x", "y"), "abc");
+}
+
+TEST_F(ProductName, IsTheWideValueBehindTheLandmark) {
+  EXPECT_EQ(NameIn("MZ\0\0"s + Entry("ProductName", "Before") + LandmarkBytes +
+                   Entry("ProductName", "Helper Bar") + "\0\0"s),
+            "Helper Bar");
+}
+
+TEST_F(ProductName, OfSeveralLanguagesIsTheFirst) {
+  EXPECT_EQ(NameIn(LandmarkBytes + Entry("ProductName", "One") + "\0"s +
+                   Entry("ProductName", "Two") + "\0"s),
+            "One");
+}
+
+TEST_F(ProductName, IsTheNarrowValueWhereThereIsNoWideLandmark) {
+  EXPECT_EQ(NameIn("ProductName\0first\0\0\0StringFileInfo\0..ProductName\0Old Bar\0\0\0"s),
+            "Old Bar");
+}
+
+TEST_F(ProductName, WithoutAnyLandmarkTheTextInTheDataCounts) {
+  EXPECT_EQ(NameIn("data ProductName\0whatever follows\0\0\0"s), "whatever follows");
+}
+
+TEST_F(ProductName, AWideLandmarkAloneLooksForNoNarrowKey) {
+  EXPECT_EQ(NameIn(LandmarkBytes + "ProductName\0Narrow\0\0\0"s), "");
+}
+
+TEST_F(ProductName, AnEmptyValueIsAnEmptyName) {
+  EXPECT_EQ(NameIn(LandmarkBytes + Entry("ProductName", "") + "\0\0\0\0"s), "");
+}
+
+TEST_F(ProductName, AMissingEndMarkIsAnEmptyName) {
+  EXPECT_EQ(NameIn("ProductName\0no end"s), "");
+  EXPECT_EQ(NameIn("ProductName\0ends short\0\0"s), "");
+}
+
+TEST_F(ProductName, AKeyAtTheVeryEndIsAnEmptyName) {
+  EXPECT_EQ(NameIn("ProductName"), "");
+  EXPECT_EQ(NameIn(LandmarkBytes + WidenKey("ProductName")), "");
+}
+
+TEST_F(ProductName, NonLatinCharactersKeepTheirHighBytes) {
+  EXPECT_EQ(NameIn(LandmarkBytes + "\1\0"s + Wide("ProductName") + "\0\0\0\0"s +
+                   "\x41\x04\x42\x04\0\0\0"s),
+            "\x41\x04\x42\x04"s);
+}
+
+TEST_F(ProductName, RunningIntoTheNextEntryEndsItOneCharacterEarly) {
+  EXPECT_EQ(NameIn("ProductName\0Old Bar\1ProductVersion\0\0\0"s), "Old Ba");
+  EXPECT_EQ(program.ProductNameFallbacks, 1);
+}
+
+TEST_F(ProductName, TheGuardCountsAlsoWithoutAControlCharacter) {
+  const std::string longValue = std::string(300, 'n') + "ProductVersion";
+  EXPECT_EQ(NameIn("ProductName\0"s + longValue + "\0\0\0"s), longValue);
+  EXPECT_EQ(program.ProductNameFallbacks, 1);
+}
+
+TEST_F(ProductName, TheGuardLooksAtTheCharactersUpToThe255th) {
+  EXPECT_EQ(NameIn("ProductName\0"s + std::string(255, 'n') + "\1ProductVersion\0\0\0"s),
+            std::string(254, 'n'));
+  EXPECT_EQ(NameIn("ProductName\0"s + std::string(256, 'n') + "\1ProductVersion\0\0\0"s),
+            std::string(256, 'n') + "\1ProductVersion");
+}
+
+TEST_F(ProductName, AFileThatCannotBeReadHasNone) {
+  EXPECT_EQ(GetProductName(program, "C:\\none.dll"), "");
+  world.files.Put(Path, "ProductName\0x\0\0\0"s);
+  world.files.SetLocked(Path, true);
+  EXPECT_EQ(GetProductName(program, Path), "");
+  EXPECT_EQ(program.fileNumbers.FreeFile(), 1);
+}
+
+// The sequences lie across the borders of the blocks in which the file is read.
+TEST_F(ProductName, IsFoundAcrossTheBordersOfBlocks) {
+  constexpr std::size_t Block = 256 * 1024;
+  for (const std::size_t before : {Block - 1, Block - 13, Block - 27, Block - 30, Block - 60}) {
+    EXPECT_EQ(NameIn(std::string(before, 'x') + LandmarkBytes + Entry("ProductName", "Wide Bar") +
+                     "\0\0\0"s),
+              "Wide Bar");
+    EXPECT_EQ(NameIn(std::string(before, 'x') + "StringFileInfo\0ProductName\0Narrow\0\0\0"s),
+              "Narrow");
+  }
+}
+
+TEST_F(ProductName, RandomBytesGiveTheSameAsThePlainSearch) {
+  std::mt19937 random(7);
+  const std::string pieces[] = {LandmarkBytes,
+                                WidenKey("ProductName"),
+                                Entry("ProductName", "N"),
+                                Entry("ProductVersion", "1"),
+                                "StringFileInfo",
+                                "ProductName",
+                                "ProductVersion",
+                                "\0\0\0"s,
+                                "\0"s,
+                                "\0\0"s,
+                                "\1",
+                                "Bar"};
+  for (int round = 0; round < 20000; ++round) {
+    std::string bytes;
+    for (unsigned count = random() % 12; count > 0; --count) {
+      bytes += pieces[random() % std::size(pieces)];
+      if (random() % 4 == 0) bytes += static_cast<char>(random());
+    }
+    // Cut anywhere.
+    if (!bytes.empty() && random() % 2 == 0) bytes.resize(random() % bytes.size());
+    NameIn(bytes);
+    ASSERT_FALSE(HasFailure()) << testing::PrintToString(bytes);
+  }
+}
+
+}  // namespace
+}  // namespace vantrel::fileutil
