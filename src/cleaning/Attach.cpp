@@ -1,5 +1,7 @@
 #include "cleaning/Attach.h"
 
+#include "cleaning/CacheCleaner.h"
+#include "cleaning/Cookies.h"
 #include "program/PanelHosting.h"
 #include "windows/FrmFrameHistory.h"
 
@@ -8,6 +10,8 @@ namespace vantrel::cleaning {
 void AttachCleaning(program::Program& program) {
   program.windows.FrmFrameHistory.OnMade([&program](windows::FrmFrameHistory& panel) {
     panel.Load = [&program, &panel] { program::HostPanel(program, panel); };
+    AttachCacheCleaner(program, panel);
+    AttachCookies(program, panel);
   });
 }
 

@@ -1,0 +1,45 @@
+// Overwriting files with random characters before they go.
+#ifndef VANTREL_CLEANING_SCRAMBLE_H_
+#define VANTREL_CLEANING_SCRAMBLE_H_
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "program/Program.h"
+
+namespace vantrel::cleaning {
+
+// Random numbers from 0 up to but not including 1.
+class RandomNumbers {
+ public:
+  explicit RandomNumbers(std::uint32_t seed) : engine_(seed) {}
+  double Next();
+
+ private:
+  std::minstd_rand engine_;
+};
+
+// What the passes over a file leave: bytes at places, in the order of writing, none beyond the
+// file's end but in the last rows.
+struct Overwrite {
+  std::uint64_t Offset = 0;  // 0-based
+  std::string Bytes;
+};
+
+// The bytes that at most 50,001 passes leave in a file of `length` bytes that is open under the
+// number. Pass i, from 0 to the length inclusive, writes a character of code 1 to 160 at the
+// position that equals the file number, which is meant, and then one of code 2 to 61 at position
+// i + 1, counted from 1. A file shorter than the limit grows by one byte.
+std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, RandomNumbers& random);
+
+// Overwrites an existing file in place. Errors are ignored.
+void ScrambleFile(program::Program& program, const std::string& path);
+
+// Overwrites the file and deletes it; no effect on what is no cleaning target. Errors are ignored.
+void ScrambleAndKill(program::Program& program, const std::string& path);
+
+}  // namespace vantrel::cleaning
+
+#endif  // VANTREL_CLEANING_SCRAMBLE_H_

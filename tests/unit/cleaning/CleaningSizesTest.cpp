@@ -1,0 +1,119 @@
+// The sizes of the folders that the Clean panel cleans, and where their paths are kept.
+#include "unit/cleaning/CleanPanel.h"
+
+namespace vantrel::cleaning {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+
+class CleaningSizes : public CleanPanel {};
+
+TEST_F(CleaningSizes, NothingIsScannedWhenThePanelIsMadeOrShown) {
+  Panel().Show();
+  EXPECT_THAT(Captions(), Each(""));
+  EXPECT_THAT(Paths(), Each(""));
+  EXPECT_EQ(Panel().txtcookies.Text(), "C:\\Documents and Settings\\Administrator\\Cookies");
+}
+
+TEST_F(CleaningSizes, EachLabelShowsItsFoldersSizeAndKeepsItsPath) {
+  Put(std::string(Internet) + "\\a\\b\\f", std::string(1234567, 'x'));
+  Put(std::string(Recent) + "\\f", std::string(512, 'x'));
+  Put(std::string(History) + "\\f", std::string(511, 'x'));
+  ShowCacheSizes(program);
+  EXPECT_THAT(Captions(), ElementsAre("1,206 Kbs", "1 Kbs", "0 Kbs", "0 Kbs"));
+  EXPECT_THAT(Paths(), ElementsAre(Internet, Recent, History, Temporary));
+}
+
+TEST_F(CleaningSizes, HiddenAndSystemFilesCount) {
+  const std::string file = std::string(Recent) + "\\f";
+  Put(file, std::string(2048, 'x'));
+  world.files.SetAttributes(file, platform::AttributeHidden | platform::AttributeSystem);
+  ShowCacheSizes(program);
+  EXPECT_EQ(Panel().lblRecent.Caption(), "2 Kbs");
+}
+
+TEST_F(CleaningSizes, TheSeparatorIsTheUsersOwn) {
+  world.thousandsSeparator = ".";
+  Put(std::string(Internet) + "\\f", std::string(1024000, 'x'));
+  ShowCacheSizes(program);
+  EXPECT_EQ(Panel().lbltif.Caption(), "1.000 Kbs");
+}
+
+TEST_F(CleaningSizes, ALinkIsNotMeasured) {
+  Put("C:\\outside\\f", std::string(4096, 'x'));
+  world.files.MakeLink(std::string(Recent) + "\\link", "C:\\outside");
+  world.files.MakeLink(std::string(Recent) + "\\self", Recent);
+  ShowCacheSizes(program);
+  EXPECT_EQ(Panel().lblRecent.Caption(), "0 Kbs");
+}
+
+TEST_F(CleaningSizes, WithoutTempBesideTheHistoryAllLabelsStay) {
+  ShowCacheSizes(program);
+  Put(std::string(Internet) + "\\f", std::string(4096, 'x'));
+  world.files.Remove(Temporary);
+  Put(std::string(CookiesFolder) + "\\c", std::string(1024, 'x'));
+  RefreshCleanPanel(program);
+  EXPECT_THAT(Captions(), Each("0 Kbs"));
+  EXPECT_THAT(Paths(), ElementsAre(Internet, Recent, History, Temporary));
+  EXPECT_EQ(Panel().lblcookies.Caption(), "1 Kbs of files");
+}
+
+TEST_F(CleaningSizes, AFolderThatTheShellDoesNotKnowChangesNoLabel) {
+  for (const int number :
+       {fileutil::CSIDL_INTERNET_CACHE, fileutil::CSIDL_RECENT, fileutil::CSIDL_HISTORY}) {
+    const std::string kept = world.specialFolders[number];
+    world.specialFolders.erase(number);
+    ShowCacheSizes(program);
+    EXPECT_THAT(Captions(), Each(""));
+    world.specialFolders[number] = kept;
+  }
+}
+
+TEST_F(CleaningSizes, AFolderThatCannotBeMeasuredEndsTheScanThere) {
+  Put(std::string(Internet) + "\\f", std::string(4096, 'x'));
+  process.Faults().FailCall("ListFolder", 2, platform::ErrorAccessDenied);
+  ShowCacheSizes(program);
+  EXPECT_THAT(Captions(), ElementsAre("4 Kbs", "", "", ""));
+  EXPECT_THAT(Paths(), ElementsAre(Internet, "", "", ""));
+}
+
+TEST_F(CleaningSizes, TheCookiesShowSizePathAndFiles) {
+  Put(std::string(CookiesFolder) + "\\user@site.txt", std::string(3000, 'x'));
+  ShowIECookies(program);
+  EXPECT_EQ(Panel().lblcookies.Caption(), "3 Kbs of files");
+  EXPECT_EQ(Panel().txtcookies.Text(), CookiesFolder);
+  EXPECT_THAT(Urls(), ElementsAre(std::string(CookiesFolder) + "\\..|..|ie",
+                                  std::string(CookiesFolder) + "\\user@site.txt|user@site.txt|ie"));
+}
+
+TEST_F(CleaningSizes, WithoutACookiesFolderTheOneOfTheLastScanIsShown) {
+  Put(std::string(CookiesFolder) + "\\c", std::string(2048, 'x'));
+  ShowIECookies(program);
+  world.specialFolders.erase(fileutil::CSIDL_COOKIES);
+  Panel().txtcookies.SetText("else");
+  ShowIECookies(program);
+  EXPECT_EQ(Panel().txtcookies.Text(), CookiesFolder);
+  EXPECT_EQ(Panel().lblcookies.Caption(), "2 Kbs of files");
+}
+
+TEST_F(CleaningSizes, RefreshScansTwiceAroundTheWaitText) {
+  std::vector<std::string> seen;
+  toolkit.DuringDoEvents = [&] {
+    seen.push_back(std::to_string(Panel().MousePointer()) + " " +
+                   Panel().lblcleaningstatus.Caption() + " " + Panel().lbltif.Caption());
+  };
+  Click(Panel().lblRefresh);
+  const std::string wait = "Initializing please wait...";
+  // The cookies list holds only "..": one pump for it, and one behind it.
+  EXPECT_THAT(seen,
+              ElementsAre("11 Status: ", "11 Status: 0 Kbs", "11 Status: 0 Kbs", "11 Status: 0 Kbs",
+                          "11 Status: 0 Kbs", "0 Status: 0 Kbs", "0 " + wait + " 0 Kbs",
+                          "11 " + wait + " 0 Kbs", "11 " + wait + " 0 Kbs", "11 " + wait + " 0 Kbs",
+                          "11 " + wait + " 0 Kbs", "11 " + wait + " 0 Kbs", "0 " + wait + " 0 Kbs",
+                          "0 Ready to clean 0 Kbs"));
+  EXPECT_EQ(Panel().lblcleaningstatus.Caption(), "Ready to clean");
+}
+
+}  // namespace
+}  // namespace vantrel::cleaning
