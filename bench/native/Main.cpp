@@ -15,6 +15,9 @@
 #include "native/Machine.h"
 #include "settings/bmdlReg.h"
 #include "statistics/RefreshCounters.h"
+#include "windows/FrmFrameAllowList.h"
+#include "windows/FrmFrameBlockPreferences.h"
+#include "windows/FrmFrameGraph.h"
 
 namespace vantrel::bench {
 namespace {
