@@ -289,6 +289,8 @@ LRESULT ListViewWindow::Draw(NMLVCUSTOMDRAW& draw) const {
   }
   draw.clrText = System().Palette.Of(palette::HighlightText);
   draw.clrTextBk = System().Palette.Of(palette::Highlight);
+  // A selected row is drawn in the list's own colours, without the focus in pale ones.
+  draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
   return CDRF_NEWFONT;
 }
 
