@@ -69,6 +69,21 @@ class SampleSites {
   const std::string kept_;
 };
 
+// A layout of which both lists of the dialog have something to show.
+class SampleLayout {
+ public:
+  SampleLayout() { Put("1,2,3,5,7,4,9,12,13,6,17,19"); }
+  ~SampleLayout() { Put("1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19"); }
+  SampleLayout(const SampleLayout&) = delete;
+  SampleLayout& operator=(const SampleLayout&) = delete;
+
+ private:
+  static void Put(const char* list) {
+    Write(HKEY_CURRENT_USER, "Software\\Qorvel Softwares\\Toolbar Settings", "Toolbar Settings",
+          Text(list));
+  }
+};
+
 // Ends the copy as its menu does and starts it anew; the chart is drawn at the start alone.
 DWORD StartAnew(DWORD processId) {
   const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, processId);
@@ -142,6 +157,7 @@ void ShootHelp(const Copy& copy, HWND main) {
 }
 
 void ShootDialogs(const Copy& copy) {
+  const SampleLayout layout;
   for (const auto& [name, entry, window] : {std::tuple{"toolbar", "submnuIEToolbar", "frmcustom"},
                                             std::tuple{"about", "submnuAbout", "FrmAbout"}}) {
     copy.Choose(entry);
