@@ -74,6 +74,13 @@ class ToolbarTest : public ProgramTest {
     memory.ReadInto(&area, sizeof(area));
     return area;
   }
+  // The control of the program's that has the focus, by its name.
+  std::string Focused() const {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    GetGUIThreadInfo(GetWindowThreadProcessId(Program().Find("frmMain"), nullptr), &thread);
+    return thread.hwndFocus == nullptr ? "" : ControlNameOf(thread.hwndFocus);
+  }
   // A click of the mouse on the 1-based row.
   void ClickRow(const char* list, int row) const {
     const RECT area = AreaOf(list, row);
@@ -139,6 +146,15 @@ TEST_F(ToolbarTest, TheFirstRunsLayoutShowsAllButtons) {
   EXPECT_EQ(Program().TextOf("frmcustom.txttoolbarname"), "Vantrel");
   EXPECT_TRUE(Program().IsEnabled("frmcustom.cmdDone"));
   ExpectStored(WholeList, "Mine");
+}
+
+TEST_F(ToolbarTest, TheFocusGoesToAddAndComesBackToIt) {
+  OpenOver(WholeList);
+  EXPECT_TRUE(WaitFor([&] { return Focused() == "frmcustom.cmdAdd"; })) << Focused();
+  SetForegroundWindow(Program().Find("frmMain"));
+  ASSERT_TRUE(WaitFor([&] { return Focused().starts_with("frmMain"); })) << Focused();
+  SetForegroundWindow(Program().Find(Dialog));
+  EXPECT_TRUE(WaitFor([&] { return Focused() == "frmcustom.cmdAdd"; })) << Focused();
 }
 
 TEST_F(ToolbarTest, ALayoutByMouse) {

@@ -83,9 +83,10 @@ bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
     case WM_ACTIVATE:
       if (LOWORD(first) != WA_INACTIVE) {
         System().Raise([this] { form_.BecomesActive(); });
-      } else if (IsChild(Handle(), GetFocus())) {
-        lastFocus_ = GetFocus();
+        // A focus that the event has put into the window stays there.
+        return IsChild(Handle(), GetFocus()) != FALSE;
       }
+      if (IsChild(Handle(), GetFocus())) lastFocus_ = GetFocus();
       return false;
     default:
       return false;

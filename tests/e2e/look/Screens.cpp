@@ -156,11 +156,24 @@ void ShootHelp(const Copy& copy, HWND main) {
   Shoot("help", main);
 }
 
+// A row on its way, which is highlighted where it stands.
+void MoveRow(const Copy& copy) {
+  HWND list = copy.Find("frmcustom.lstvCurrent");
+  RECT inside{};
+  GetClientRect(list, &inside);
+  const LPARAM middle = MAKELPARAM(inside.right / 2, inside.bottom / 2);
+  PostMessageA(list, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+  PostMessageA(list, WM_LBUTTONUP, 0, middle);
+  PostMessageA(copy.Find("frmcustom.cmdMDown"), BM_CLICK, 0, 0);
+}
+
 void ShootDialogs(const Copy& copy) {
   const SampleLayout layout;
   for (const auto& [name, entry, window] : {std::tuple{"toolbar", "submnuIEToolbar", "frmcustom"},
                                             std::tuple{"about", "submnuAbout", "FrmAbout"}}) {
     copy.Choose(entry);
+    WaitFor([&, dialog = window] { return copy.Find(dialog) != nullptr; }, 5000);
+    if (copy.Find("frmcustom") != nullptr) MoveRow(copy);
     ShootWhenThere(name, [&] { return copy.Find(window); });
     HWND shown = copy.Find(window);
     if (shown == nullptr) continue;
