@@ -20,7 +20,6 @@ inline constexpr FileErrorRow FileErrorRows[] = {
     {8, text::ErrorNumber::OutOfMemory},            // no memory for the content
     {32, text::ErrorNumber::PermissionDenied},      // locked by somebody else
     {112, text::ErrorNumber::DiskFull},             // disk full
-    {123, text::ErrorNumber::BadFileNameOrNumber},  // a name that cannot be
     {145, text::ErrorNumber::PathFileAccessError},  // a folder that is not empty
     {267, text::ErrorNumber::PathFileAccessError},  // a file in a folder's place
 };

@@ -10,6 +10,14 @@ namespace {
 
 class MemorySubject : public Subject {
  public:
+  MemorySubject() {
+    for (const int number : {8, 26, 32, 33, 34}) {
+      const std::string path = "C:\\Special" + std::to_string(number);
+      world_.files.MakeFolder(path);
+      world_.specialFolders[number] = path;
+    }
+  }
+
   platform::Platform Platform() override { return process_.Platform(); }
 
   platform::Platform StartAnother() override {

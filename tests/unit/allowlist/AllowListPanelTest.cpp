@@ -307,8 +307,8 @@ class WatchedFiles : public platform::Files {
 };
 
 platform::Platform With(platform::Files& files, const platform::Platform& all) {
-  return {all.registry, all.desktop, all.shell,  files,      all.processes,
-          all.sound,    all.dialogs, all.system, all.modules};
+  return {all.registry, all.desktop, all.shell,   files,       all.processes,  all.sound,
+          all.dialogs,  all.system,  all.modules, all.folders, all.binaryFiles};
 }
 
 TEST(AllowListPanelRow, ReadsBlockWhileTheFileIsWrittenAndBlockedAfterIt) {
