@@ -12,8 +12,8 @@ bool IsSlash(char c) { return c == '\\' || c == '/'; }
 
 // Where the part behind a drive's root or a share begins; npos for a path that is not full.
 std::size_t BehindRoot(const std::string& path) {
-  if (path.size() > 2 && std::isalpha(static_cast<unsigned char>(path[0])) != 0 &&
-      path[1] == ':' && IsSlash(path[2])) {
+  if (path.size() > 2 && std::isalpha(static_cast<unsigned char>(path[0])) != 0 && path[1] == ':' &&
+      IsSlash(path[2])) {
     return 3;
   }
   if (path.size() < 3 || !IsSlash(path[0]) || !IsSlash(path[1])) return std::string::npos;
