@@ -1,12 +1,14 @@
 #include "forms/win32/ButtonWindows.h"
 
+#include <utility>
+
 namespace vantrel::forms::win32 {
 
 WindowShape ButtonWindow::ShapeOf(DWORD style) const {
   WindowShape shape;
   shape.ClassName = "BUTTON";
   shape.Text = Model().WindowText();
-  shape.Style = style | BS_NOTIFY;
+  shape.Style = style;
   return shape;
 }
 
@@ -48,10 +50,13 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_GETTEXT:
       if (painting_) return TextToPaint(first, second);
       break;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      return Press(first, second);
     case WM_SETFOCUS: {
-      focusing_ = true;
+      const bool outer = std::exchange(focusing_, true);
       const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-      focusing_ = false;
+      focusing_ = outer;
       return answer;
     }
     default:

@@ -142,8 +142,17 @@ void ControlWindow::GiveFocusAway() {
   ::SetFocus(handle != nullptr && handle != Handle() ? handle : root);
 }
 
+// A window behind a box or a modal dialog would become active with its control's focus.
 void ControlWindow::TakeFocus() const {
-  if (Alive() && GetFocus() != Handle() && !IsChild(Handle(), GetFocus())) ::SetFocus(Handle());
+  if (!Alive() || GetFocus() == Handle() || IsChild(Handle(), GetFocus())) return;
+  const HWND root = GetAncestor(Handle(), GA_ROOT);
+  const HWND dialog = DialogInFront(System());
+  const auto behind = dialog != nullptr && dialog != root ? System().FindForm(root) : nullptr;
+  if (behind != nullptr) {
+    behind->FocusLater(Handle());
+  } else {
+    ::SetFocus(Handle());
+  }
 }
 
 void ControlWindow::PaintSurface(HDC context, const RECT&) { PaintBehind(context); }
@@ -178,13 +187,31 @@ bool ControlWindow::HasMouse(LPARAM position) const {
                           static_cast<short>(HIWORD(position))}) != FALSE;
 }
 
-void ControlWindow::BeginPress(bool takesFocus) {
+// The focus may lead to a box, and be kept by the control that had it.
+ControlWindow::PressState ControlWindow::FocusByPress() const {
   const LONG time = GetMessageTime();
-  if (takesFocus) ::SetFocus(Handle());
-  // What the focus led to may have brought up a box: with it the button was let go.
-  if (!Alive() || GetMessageTime() != time) return;
-  SetCapture(Handle());
-  pressed_ = true;
+  ::SetFocus(Handle());
+  if (!Alive() || GetFocus() != Handle()) return PressState::Refused;
+  // Messages were received meanwhile, that of the release among them unless the button is down.
+  const bool letGo = GetMessageTime() != time && GetKeyState(VK_LBUTTON) >= 0;
+  return letGo ? PressState::LetGo : PressState::Held;
+}
+
+LRESULT ControlWindow::Press(WPARAM keys, LPARAM position) {
+  const PressState state = FocusByPress();
+  if (state == PressState::Refused) return 0;
+  if (state == PressState::LetGo) PostMessageA(Handle(), WM_LBUTTONUP, 0, position);
+  return ControlWindow::OnMessage(WM_LBUTTONDOWN, keys, position);
+}
+
+// Whether the press is a click already.
+bool ControlWindow::BeginPress(bool takesFocus) {
+  const PressState state = takesFocus ? FocusByPress() : PressState::Held;
+  if (state == PressState::Held) {
+    SetCapture(Handle());
+    pressed_ = true;
+  }
+  return state == PressState::LetGo;
 }
 
 // Whether it is a click.
@@ -197,9 +224,9 @@ bool ControlWindow::EndPress(LPARAM position) {
 LRESULT ControlWindow::FollowButton(UINT message, WPARAM first, LPARAM second, bool takesFocus,
                                     const std::function<void()>& click) {
   // Before the events, whose handlers may take the mouse away.
-  const bool clicked = message == WM_LBUTTONUP && EndPress(second);
+  bool clicked = message == WM_LBUTTONUP && EndPress(second);
   const LRESULT answer = ControlWindow::OnMessage(message, first, second);
-  if (Alive() && message != WM_LBUTTONUP) BeginPress(takesFocus);
+  if (Alive() && message != WM_LBUTTONUP) clicked = BeginPress(takesFocus);
   if (Alive() && clicked) Raise(click);
   return answer;
 }
@@ -220,7 +247,12 @@ void ControlWindow::RaiseMouse(UINT message, WPARAM keys, LPARAM position) {
 bool ControlWindow::TakesFocusFromModel() {
   bool taken = true;
   Raise([&] { taken = System().UserMovesFocus(&control_); });
-  if (taken || !Alive()) return taken;
+  if (!Alive()) return taken;
+  if (taken) {
+    // A box that came and went may have left the screen's focus elsewhere.
+    TakeFocus();
+    return true;
+  }
   const Control* keeper = System().Focus();
   if (keeper != nullptr && keeper->Peer() != nullptr) keeper->Peer()->SetFocus();
   return false;

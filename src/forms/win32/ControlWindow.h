@@ -55,6 +55,10 @@ class ControlWindow : public Window {
   HBRUSH OnInputColor(HDC context);
   void DrawOwnBorder();
   bool HasMouse(LPARAM position) const;
+  // The left button goes down on a control that Windows itself makes clicks of. A quick second
+  // press is a press like the first, no double-click. The focus comes first: if that brings up a
+  // box, in which the button is let go, the press is carried out whole behind the box.
+  LRESULT Press(WPARAM keys, LPARAM position);
   // The left button's messages to a control that Windows knows no clicks of: raises what every
   // control does, and `click` when the button is let go over the control that it was pressed on.
   LRESULT FollowButton(UINT message, WPARAM first, LPARAM second, bool takesFocus,
@@ -62,7 +66,10 @@ class ControlWindow : public Window {
 
  private:
   RECT Area() const;
-  void BeginPress(bool takesFocus);
+  // What a press has come to once the control has been given the focus.
+  enum class PressState { Refused, Held, LetGo };
+  PressState FocusByPress() const;
+  bool BeginPress(bool takesFocus);
   bool EndPress(LPARAM position);
   void ShowText();
   void ShowVisible();

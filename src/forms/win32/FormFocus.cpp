@@ -16,11 +16,11 @@ std::shared_ptr<FormWindow> FormWindow::TopPanel() const {
   return nullptr;
 }
 
-bool FormWindow::IsCovered(const Control& control, const FormWindow& panel) const {
+bool FormWindow::IsCovered(HWND control, const FormWindow& panel) {
   RECT area{};
   RECT cover{};
   RECT common{};
-  if (!GetWindowRect(HandleOf(control), &area) || !GetWindowRect(panel.Handle(), &cover)) {
+  if (!GetWindowRect(control, &area) || !GetWindowRect(panel.Handle(), &cover)) {
     return false;
   }
   return IntersectRect(&common, &area, &cover) && EqualRect(&common, &area);
@@ -31,7 +31,7 @@ std::vector<Control*> FormWindow::TabStops() const {
   std::vector<Control*> stops = form_.TabOrder();
   std::erase_if(stops, [&](const Control* stop) {
     if (!IsWindow(HandleOf(*stop))) return true;
-    if (&stop->Owner() == &form_) return panel != nullptr && IsCovered(*stop, *panel);
+    if (&stop->Owner() == &form_) return panel != nullptr && IsCovered(HandleOf(*stop), *panel);
     return panel == nullptr || &stop->Owner() != &panel->Model();
   });
   return stops;
@@ -41,14 +41,25 @@ Control* FormWindow::NextStop(const Control* from, bool backwards) const {
   return forms::NextStop(TabStops(), from, backwards);
 }
 
-// What was focused when the window was left, or its first stop.
+// Whether the window of a control shows, is enabled, and does not lie under another panel.
+bool FormWindow::CanHaveFocus(HWND control) const {
+  if (!IsChild(Handle(), control) || !IsWindowVisible(control) || !IsWindowEnabled(control)) {
+    return false;
+  }
+  const auto panel = TopPanel();
+  return panel == nullptr || IsChild(panel->Handle(), control) || !IsCovered(control, *panel);
+}
+
+// What was focused when the window was left; if that went under a panel, the panel's first stop;
+// else the window's.
 void FormWindow::RestoreFocus() {
-  if (lastFocus_ != nullptr && IsChild(Handle(), lastFocus_) && IsWindowVisible(lastFocus_) &&
-      IsWindowEnabled(lastFocus_)) {
+  if (lastFocus_ != nullptr && CanHaveFocus(lastFocus_)) {
     ::SetFocus(lastFocus_);
     return;
   }
-  const Control* first = NextStop(nullptr, false);
+  const auto panel = lastFocus_ != nullptr ? TopPanel() : nullptr;
+  const Control* first = panel != nullptr ? panel->NextStop(nullptr, false) : nullptr;
+  if (first == nullptr) first = NextStop(nullptr, false);
   // In a dialog Enter is to answer, not to follow a link.
   if (dynamic_cast<const Label*>(first) != nullptr && !IsMain()) {
     if (const Control* answer = DefaultButton(form_)) first = answer;
@@ -69,7 +80,12 @@ void FormWindow::LeaveFocus() {
 bool FormWindow::IsFocusMove(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_SETFOCUS:
-      RestoreFocus();
+      // The end of a box makes its owner active, also a hidden one: the keyboard would be dead.
+      if (IsWindowVisible(Handle())) {
+        RestoreFocus();
+      } else {
+        ActivateOther();
+      }
       return true;
     case WM_NEXTDLGCTL: {
       const bool isHandle = LOWORD(second) != 0;

@@ -186,10 +186,19 @@ void FormWindow::ShowVisible() {
   }
   MakeControls();
   if (!std::exchange(placed_, true)) Center();
+  GoBehindDialog();
   ShowWindow(Handle(), ShowCommand());
   // A process that was started hidden has its first window hidden, whatever it asks for.
   if (form_.Visible() && !IsVisibleItself(Handle())) ShowWindow(Handle(), ShowCommand());
   PaintAtOnce();
+}
+
+// Shown while a dialog keeps the other windows from being used, it takes no input either.
+void FormWindow::GoBehindDialog() const {
+  for (const Form* form : System().LoadedForms()) {
+    const auto dialog = form->Modal() ? System().FindForm(HandleOf(*form)) : nullptr;
+    if (dialog != nullptr && dialog.get() != this && !IsPanel()) dialog->modality_.Cover(Handle());
+  }
 }
 
 // All of it before the next message, so that no half-painted window is ever seen.
@@ -239,9 +248,16 @@ void FormWindow::ShowState() {
   if (form_.Visible() && IsMain()) ShowWindow(Handle(), ShowCommand());
 }
 
+// A box or a modal dialog stays in front of what is shown behind it, and a menu that is open ends:
+// whoever shows a window from outside finds one that answers.
 void FormWindow::Activate() {
   if (IsPanel()) return;
-  SetForegroundWindow(Handle());
+  EndMenu();
+  const HWND dialog = DialogInFront(System());
+  SetForegroundWindow(dialog != nullptr ? dialog : Handle());
+  if (dialog != nullptr && dialog != Handle()) return;
+  // A window that was hidden in between may come back without the focus.
+  if (!IsIconic(Handle()) && !IsChild(Handle(), GetFocus())) RestoreFocus();
 }
 
 void FormWindow::PopupMenu(Menu& menu) {
@@ -268,8 +284,20 @@ void FormWindow::Close() {
 }
 
 void FormWindow::EndModal() {
+  if (!modality_.End() || !Alive()) return;
   // The loop that waits for it looks again.
-  if (modality_.End() && Alive()) PostMessageA(Handle(), WM_NULL, 0, 0);
+  PostMessageA(Handle(), WM_NULL, 0, 0);
+  // Windows activates the owner of a dialog that goes, but not a hidden one.
+  const HWND owner = GetWindow(Handle(), GW_OWNER);
+  if (GetActiveWindow() == Handle() && !IsWindowVisible(owner)) ActivateOther();
+}
+
+void FormWindow::ActivateOther() const {
+  const auto& forms = System().LoadedForms();
+  const auto other = std::find_if(forms.rbegin(), forms.rend(), [this](const Form* form) {
+    return form != &form_ && form->Host() == nullptr && form->Visible();
+  });
+  if (other != forms.rend()) SetForegroundWindow(HandleOf(**other));
 }
 
 void FormWindow::LayOut() {
@@ -393,8 +421,6 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_SETCURSOR:
       if (LOWORD(second) == HTCLIENT && System().ShowPointer(form_.MousePointer())) return TRUE;
       break;
-    case DM_GETDEFID:
-      return DefaultButtonAnswer(form_);
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:

@@ -31,6 +31,8 @@ class FormWindow : public Window {
   void RunModal();
   void PopupMenu(Menu& menu);
   void Activate();
+  // The control gets the focus when the window is active next.
+  void FocusLater(HWND control) { lastFocus_ = control; }
   HICON Icon() const { return System().Images.ProgramIcon(true); }
 
   // The controls that Tab visits now: the model's order without what lies under another panel.
@@ -53,6 +55,7 @@ class FormWindow : public Window {
   HWND DialogOwner() const;
   void AwaitControls();
   void ShowVisible();
+  void GoBehindDialog() const;
   RECT Measured() const;
   void ShowPlace();
   void ShowState();
@@ -65,13 +68,16 @@ class FormWindow : public Window {
   void LeaveFocus();
   void RestoreFocus();
   void EndModal();
+  // Brings the latest of the program's other windows that show to the front.
+  void ActivateOther() const;
   void SchemeChanged(UINT message);
   bool IsEvent(UINT message, WPARAM first, LPARAM second);
   bool IsFocusMove(UINT message, WPARAM first, LPARAM second);
   bool GoesWithOwner() const;
   void AboutToMove(const WINDOWPOS& change);
   void Moved(const WINDOWPOS& change);
-  bool IsCovered(const Control& control, const FormWindow& panel) const;
+  static bool IsCovered(HWND control, const FormWindow& panel);
+  bool CanHaveFocus(HWND control) const;
   LRESULT Closing(UINT message, WPARAM first);
 
   Form& form_;

@@ -168,11 +168,6 @@ char AccessKeyOf(const std::string& caption) {
   return '\0';
 }
 
-LRESULT DefaultButtonAnswer(const Form& form) {
-  const Control* button = DefaultButton(form);
-  return button != nullptr ? MAKELONG(GetDlgCtrlID(HandleOf(*button)), DC_HASDEFID) : 0;
-}
-
 bool HandleKey(WindowSystem& system, const MSG& message) {
   if (message.message != WM_KEYDOWN && message.message != WM_SYSCHAR) return false;
   const auto root = system.FindForm(GetAncestor(message.hwnd, GA_ROOT));

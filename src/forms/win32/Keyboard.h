@@ -15,9 +15,6 @@ namespace vantrel::forms::win32 {
 // take its way.
 bool HandleKey(WindowSystem& system, const MSG& message);
 
-// The answer to DM_GETDEFID: the form's default button.
-LRESULT DefaultButtonAnswer(const Form& form);
-
 // The lower-case access key of a caption ("&File" has 'f'), 0 for none.
 char AccessKeyOf(const std::string& caption);
 

@@ -350,6 +350,9 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       // The rows are the model's: another program neither takes nor adds any.
       if (!IsTelling()) return message == LVM_INSERTITEMA || message == LVM_INSERTITEMW ? -1 : 0;
       break;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      return Press(first, second);
     case WM_KEYDOWN:
     case WM_CHAR:
       if (TakesKey(message, first)) return 0;

@@ -15,6 +15,8 @@ class Modality {
  public:
   // Disables the other top-level windows that are enabled.
   void Begin(const WindowSystem& system, const FormWindow& dialog);
+  // Another top-level window is shown while the dialog is up: it takes no input either.
+  void Cover(HWND shown);
   bool Holds() const { return holds_; }
   // Enables them again; false if nothing was held. To be called before the dialog goes: Windows
   // would else activate another program's window.
@@ -24,6 +26,10 @@ class Modality {
   std::vector<HWND> disabled_;
   bool holds_ = false;
 };
+
+// The topmost box or modal dialog that is up and takes input, Windows' own dialogs included;
+// nullptr for none.
+HWND DialogInFront(const WindowSystem& system);
 
 }  // namespace vantrel::forms::win32
 

@@ -110,7 +110,6 @@ LRESULT Window::OnMessage(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_COMMAND:
     case WM_NOTIFY:
-    case WM_DRAWITEM:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLORBTN:
@@ -137,10 +136,9 @@ LRESULT Window::OnMessage(UINT message, WPARAM first, LPARAM second) {
 LRESULT Window::OnNotify(NMHDR&) { return 0; }
 
 LRESULT Window::Reflect(UINT message, WPARAM first, LPARAM second) {
-  const HWND sender =
-      message == WM_NOTIFY && second != 0     ? reinterpret_cast<NMHDR*>(second)->hwndFrom
-      : message == WM_DRAWITEM && second != 0 ? reinterpret_cast<DRAWITEMSTRUCT*>(second)->hwndItem
-                                              : reinterpret_cast<HWND>(second);
+  const HWND sender = message == WM_NOTIFY && second != 0
+                          ? reinterpret_cast<NMHDR*>(second)->hwndFrom
+                          : reinterpret_cast<HWND>(second);
   const std::shared_ptr<Window> control = system_.Find(sender);
   if (control == nullptr || control.get() == this) return Default(message, first, second);
   switch (message) {
@@ -148,9 +146,6 @@ LRESULT Window::Reflect(UINT message, WPARAM first, LPARAM second) {
       return control->OnCommand(first, second);
     case WM_NOTIFY:
       return control->OnNotify(*reinterpret_cast<NMHDR*>(second));
-    case WM_DRAWITEM:
-      control->OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(second));
-      return TRUE;
     default:
       break;
   }

@@ -50,7 +50,6 @@ class Window : public std::enable_shared_from_this<Window> {
   virtual LRESULT OnCommand(WPARAM, LPARAM) { return 0; }
   virtual LRESULT OnNotify(NMHDR& header);
   virtual HBRUSH OnColor(HDC) { return nullptr; }
-  virtual void OnDraw(const DRAWITEMSTRUCT&) {}
 
   // Registers the toolkit's own class.
   static void RegisterClass(HICON large, HICON small);

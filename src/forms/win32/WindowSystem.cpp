@@ -85,8 +85,9 @@ void WindowSystem::Dispatch(MSG& message) {
 void WindowSystem::Raise(const std::function<void()>& event) noexcept {
   AtBorder(event);
   if (!Ending() || quitPosted_) return;
-  // Boxes and menus of Windows' own run loops that only this ends.
+  // Boxes of Windows' own run loops that only this ends, and menus one that swallows it.
   quitPosted_ = true;
+  EndMenu();
   PostQuitMessage(0);
 }
 

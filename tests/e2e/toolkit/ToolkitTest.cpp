@@ -737,6 +737,29 @@ TEST_F(Hosted, AHiddenPanelGivesTheFocusBack) {
   EXPECT_TRUE(GetFocus() != nullptr && !IsChild(HandleOf(upper), GetFocus()));
 }
 
+struct PanelWithAList : Panel {
+  using Panel::Panel;
+  ComboBox Pick{*this, "Pick", {.At = {100, 600, 1500, 300}}, ComboStyle::PickOnly, {"Red"}};
+};
+
+TEST_F(Hosted, APanelThatIsHiddenWithTheFocusInItsListAsksNobody) {
+  PanelWithAList panel(*toolkit, "Listing");
+  panel.EnsureLoaded();
+  panel.BecomeChild();
+  SetParent(HandleOf(panel), HandleOf(form));
+  panel.SetHost(&form);
+  panel.Show();
+  int asked = 0;
+  panel.Pick.Validate = [&](bool&) { ++asked; };
+  SetFocus(HandleOf(panel.Pick));
+  ASSERT_EQ(toolkit->Focus(), &panel.Pick);
+  panel.Hide();
+  EXPECT_EQ(asked, 0);
+  EXPECT_EQ(toolkit->Focus(), &form.Name);
+  EXPECT_EQ(GetFocus(), HandleOf(form.Name));
+  panel.Unload();
+}
+
 TEST_F(RealWindows, AModalDialogDisablesTheOthersAndAnswersToItsKeys) {
   Question question(*toolkit);
   int yes = 0;
@@ -770,6 +793,96 @@ TEST_F(RealWindows, APressThatLostTheMouseIsNoClickOfALink) {
   SendMessageA(link, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(4, 4));
   SendMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
   EXPECT_EQ(clicks, 1);
+}
+
+// The second of two quick presses comes as a double-click.
+TEST_F(RealWindows, EveryQuickPressCounts) {
+  int clicks = 0;
+  form.List.Add("a", "A", "");
+  form.List.Click = [&] { ++clicks; };
+  form.Tools.ButtonClick = [&](int) { ++clicks; };
+  form.Own.Text.Click = [&] { ++clicks; };
+  form.Two.Click = [&] {
+    ++clicks;
+    form.Two.SetValue(false);
+  };
+  for (Control* control : {static_cast<Control*>(&form.Push), static_cast<Control*>(&form.Tick),
+                           static_cast<Control*>(&form.Link)}) {
+    control->Click = [&] { ++clicks; };
+  }
+  RECT tool{};
+  SendMessageA(HandleOf(form.Tools), TB_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&tool));
+  constexpr POINT Inside{10, 5};     // pixels
+  constexpr POINT FirstRow{40, 30};  // below the header
+  for (const auto& [control, point] :
+       {std::pair<Control*, POINT>{&form.Push, Inside},
+        std::pair<Control*, POINT>{&form.Tick, Inside},
+        std::pair<Control*, POINT>{&form.Two, Inside},
+        std::pair<Control*, POINT>{&form.Link, Inside},
+        std::pair<Control*, POINT>{&form.Own, Inside},
+        std::pair<Control*, POINT>{&form.Tools, {tool.left + 5, tool.top + 5}},
+        std::pair<Control*, POINT>{&form.List, FirstRow}}) {
+    clicks = 0;
+    const LPARAM place = MAKELPARAM(point.x, point.y);
+    for (const UINT press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+      PostMessageA(HandleOf(*control), press, MK_LBUTTON, place);
+      PostMessageA(HandleOf(*control), WM_LBUTTONUP, 0, place);
+      toolkit->DoEvents();
+    }
+    EXPECT_EQ(clicks, 4) << control->Name();
+  }
+  EXPECT_EQ(form.Tick.Value(), Unchecked);
+}
+
+// A box takes the focus and gives it back to what was pressed, here by the window's own way; the
+// release comes while it is up.
+TEST_F(RealWindows, APressThatBringsUpABoxOfWhatItLeavesIsAClickBehindIt) {
+  for (Control* control : {static_cast<Control*>(&form.Tick), static_cast<Control*>(&form.Push),
+                           static_cast<Control*>(&form.Link)}) {
+    int asked = 0;
+    int clicks = 0;
+    control->Click = [&] { ++clicks; };
+    form.Pick.SetFocus();
+    form.Pick.Validate = [&](bool&) {
+      ++asked;
+      SendMessageA(HandleOf(form), WM_ACTIVATE, WA_INACTIVE, 0);
+      SetFocus(nullptr);
+      toolkit->DoEvents();
+      SetFocus(HandleOf(form));
+    };
+    PostMessageA(HandleOf(*control), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    PostMessageA(HandleOf(*control), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    MSG message;
+    ASSERT_TRUE(PeekMessageA(&message, HandleOf(*control), WM_LBUTTONDOWN, WM_LBUTTONDOWN, 1));
+    // What the box receives is of a later moment than the press.
+    const DWORD pressed = GetTickCount();
+    while (GetTickCount() == pressed) {
+    }
+    PostMessageA(HandleOf(form), WM_NULL, 0, 0);
+    DispatchMessageA(&message);
+    toolkit->DoEvents();
+    EXPECT_EQ(asked, 1) << control->Name();
+    EXPECT_EQ(clicks, 1) << control->Name();
+    EXPECT_EQ(GetFocus(), HandleOf(*control));
+    EXPECT_EQ(toolkit->Focus(), control);
+    EXPECT_EQ(GetCapture(), nullptr);
+    form.Pick.Validate = nullptr;
+  }
+}
+
+TEST_F(RealWindows, APressThatTheFocusIsRefusedToIsNoClick) {
+  int clicks = 0;
+  form.Push.Click = [&] { ++clicks; };
+  form.Link.Click = form.Push.Click;
+  form.Pick.SetFocus();
+  form.Pick.Validate = [](bool& keep) { keep = true; };
+  for (Control* control : {static_cast<Control*>(&form.Push), static_cast<Control*>(&form.Link)}) {
+    SendMessageA(HandleOf(*control), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(HandleOf(*control), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  }
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(GetFocus(), HandleOf(form.Pick));
+  EXPECT_EQ(GetCapture(), nullptr);
 }
 
 TEST_F(RealWindows, AControlThatDoesNotTakeTheFocusLeavesItWhereItWas) {
