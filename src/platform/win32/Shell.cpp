@@ -10,6 +10,9 @@
 
 #include "platform/win32/Adapters.h"
 
+// The system library has it, the compiler's headers do not.
+extern "C" __declspec(dllimport) HRESULT WINAPI SHUpdateRecycleBinIcon();
+
 namespace vantrel::platform::win32 {
 namespace {
 
