@@ -745,7 +745,6 @@ struct PanelWithAList : Panel {
 TEST_F(Hosted, APanelThatIsHiddenWithTheFocusInItsListAsksNobody) {
   PanelWithAList panel(*toolkit, "Listing");
   panel.EnsureLoaded();
-  panel.BecomeChild();
   SetParent(HandleOf(panel), HandleOf(form));
   panel.SetHost(&form);
   panel.Show();
