@@ -266,6 +266,13 @@ TEST_F(CommandTest, AFirstStartWithAnUnknownCommandIsAPlainStart) {
 
 TEST_F(CommandTest, AFirstStartWithCustomToolbarShowsTheDialogAlone) {
   Running program("/customtoolbar");
+  // No layout is stored yet: the dialog's load says so, the first time without a text.
+  for (const char* const text : {"", "Some error occured while processing."}) {
+    const auto box = program.WaitForBox();
+    ASSERT_TRUE(box) << text;
+    EXPECT_EQ(box->text, text);
+    ASSERT_TRUE(program.Answer(*box));
+  }
   ASSERT_TRUE(program.WaitUntilIdle());
   EXPECT_TRUE(program.IsVisible("frmcustom"));
   EXPECT_FALSE(program.IsVisible("frmMain"));
