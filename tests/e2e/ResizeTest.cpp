@@ -1,5 +1,4 @@
-// The main window under the mouse: each handle of its frame stops at the minimum, and what spans
-// the window goes with it.
+// The main window's sizes: its frame stops at the minimum, and what spans the window goes with it.
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,27 +10,11 @@ namespace {
 
 constexpr int TwipsAnInch = 1440;
 
-// A handle of the frame: the side of the window that it moves in either direction, 0 for none.
-struct Grip {
-  const char* Name;
-  int Across;  // -1 left, 1 right
-  int Down;    // -1 top, 1 bottom
-};
-
-constexpr Grip Grips[] = {{"left", -1, 0},        {"right", 1, 0},       {"top", 0, -1},
-                          {"bottom", 0, 1},       {"top left", -1, -1},  {"top right", 1, -1},
-                          {"bottom left", -1, 1}, {"bottom right", 1, 1}};
-
 int Pixels(int twips) {
   const HDC screen = GetDC(nullptr);
   const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
   ReleaseDC(nullptr, screen);
   return MulDiv(twips, dpi, TwipsAnInch);
-}
-
-// On a side of an area, or in the middle between its sides.
-LONG On(int side, LONG begin, LONG end) {
-  return side < 0 ? begin + 1 : side > 0 ? end - 2 : (begin + end) / 2;
 }
 
 class ResizeTest : public ProgramTest {
@@ -49,11 +32,6 @@ class ResizeTest : public ProgramTest {
 
   const Running& Program() const { return *program_; }
   HWND Window() const { return Program().Find("frmMain"); }
-  RECT Frame() const {
-    RECT area{};
-    GetWindowRect(Window(), &area);
-    return area;
-  }
   // Of a control, in the main window's inside.
   RECT PlaceOf(const std::string& control) const {
     RECT area{};
@@ -63,26 +41,6 @@ class ResizeTest : public ProgramTest {
   }
   void PutFrame(int width, int height) const {
     SetWindowPos(Window(), nullptr, 150, 100, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-
-  bool IsBeingSized() const {
-    GUITHREADINFO state{};
-    state.cbSize = sizeof state;
-    const DWORD thread = GetWindowThreadProcessId(Window(), nullptr);
-    return GetGUIThreadInfo(thread, &state) != FALSE && (state.flags & GUI_INMOVESIZE) != 0;
-  }
-  // As the mouse does it, towards the opposite side and far beyond it.
-  void DragInwards(const Grip& grip) const {
-    const RECT frame = Frame();
-    const POINT from{On(grip.Across, frame.left, frame.right),
-                     On(grip.Down, frame.top, frame.bottom)};
-    SetCursorPos(from.x, from.y);
-    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-    EXPECT_TRUE(WaitFor([this] { return IsBeingSized(); }));
-    SetCursorPos(from.x - grip.Across * 500, from.y - grip.Down * 500);
-    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-    EXPECT_TRUE(WaitFor([this] { return !IsBeingSized(); }));
-    EXPECT_TRUE(Program().Answers());
   }
 
   void ExpectWhatSpansTheWindowToFit() const {
@@ -100,23 +58,12 @@ class ResizeTest : public ProgramTest {
   std::optional<Running> program_;
 };
 
-TEST_F(ResizeTest, EachHandleStopsAtTheMinimum) {
-  const int width = Pixels(9300);
-  const int height = Pixels(6825);
-  for (const Grip& grip : Grips) {
-    SCOPED_TRACE(grip.Name);
-    PutFrame(width + 90, height + 70);
-    const RECT before = Frame();
-    DragInwards(grip);
-    const RECT after = Frame();
-    EXPECT_EQ(after.right - after.left, grip.Across == 0 ? width + 90 : width);
-    EXPECT_EQ(after.bottom - after.top, grip.Down == 0 ? height + 70 : height);
-    // The side across from the handle does not move.
-    EXPECT_EQ(grip.Across < 0 ? after.right : after.left,
-              grip.Across < 0 ? before.right : before.left);
-    EXPECT_EQ(grip.Down < 0 ? after.bottom : after.top, grip.Down < 0 ? before.bottom : before.top);
-    ExpectWhatSpansTheWindowToFit();
-  }
+// The window's own answer to the system, which holds a drag by any of the eight handles to it.
+TEST_F(ResizeTest, TheFrameStopsAtTheMinimum) {
+  MINMAXINFO limits{};
+  SendMessageA(Window(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_EQ(limits.ptMinTrackSize.x, Pixels(9300));
+  EXPECT_EQ(limits.ptMinTrackSize.y, Pixels(6825));
 }
 
 TEST_F(ResizeTest, WhatSpansTheWindowGoesWithItEachWay) {
