@@ -1,5 +1,5 @@
-// Buttons, boxes, options, links, rows and tools as a user presses them: with the mouse itself,
-// twice in a row, and by the keyboard; and what is left when the focus moves to them.
+// Buttons, boxes and lists as a user presses them: twice in a row, and by the keyboard; and what is
+// left when the focus moves to them.
 #include "support/Pointer.h"
 #include "support/ProgramTest.h"
 
@@ -14,8 +14,7 @@ class PressTest : public ProgramTest {
     ProgramTest::SetUp();
     program_.emplace();
     ASSERT_TRUE(program_->WaitUntilIdle());
-    // Above all others, so that the mouse meets it.
-    SetWindowPos(Program().Find("frmMain"), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE);
+    SetForegroundWindow(Program().Find("frmMain"));
   }
   void TearDown() override {
     program_.reset();

@@ -1,4 +1,4 @@
-// The mouse itself, as the user moves and presses it: Windows decides which window it meets.
+// Presses of the mouse's left button on a control of another process.
 #ifndef VANTREL_TESTS_E2E_SUPPORT_POINTER_H_
 #define VANTREL_TESTS_E2E_SUPPORT_POINTER_H_
 
@@ -6,11 +6,9 @@
 
 namespace vantrel::e2e {
 
-// Moves the mouse to a point of the window, in pixels of its inside.
-void PointAt(HWND window, POINT inside);
-// Down and up of the left button where the mouse is, `times` in a row, without a pause.
-void PressMouse(int times = 1);
-// Both, in the middle of the window, unless `left` says how many pixels from its left edge.
+// Down and up of the left button, `times` in a row, as the system sends them to the window for
+// quick presses: every second one as a double-click. In the middle of the window, unless `left`
+// says how many pixels from its left edge. Returns before the presses are handled.
 void PressOn(HWND window, int times = 1, int left = -1);
 
 }  // namespace vantrel::e2e
