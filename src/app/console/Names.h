@@ -29,6 +29,7 @@ std::size_t PickName(const std::string& kind, const std::string& wanted,
 template <class Table>
 const auto& PickRow(const std::string& kind, const std::string& wanted, const Table& table) {
   std::vector<std::string> names;
+  names.reserve(std::size(table));
   for (const auto& row : table) names.emplace_back(row.name);
   return table[PickName(kind, wanted, names)];
 }

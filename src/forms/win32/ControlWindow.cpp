@@ -258,13 +258,21 @@ bool ControlWindow::TakesFocusFromModel() {
   return false;
 }
 
+// The text is copied: a handler may let messages through.
+void ControlWindow::AssignText(const char* text) {
+  Raise(
+      [this, copy = std::string(text != nullptr ? text : "")] { control_.AssignWindowText(copy); });
+}
+
+LRESULT ControlWindow::SpokenAnswer(WPARAM first) {
+  return AnswerSpokenObject(std::static_pointer_cast<ControlWindow>(shared_from_this()), first);
+}
+
 LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_SETTEXT:
       if (IsTelling()) break;
-      Raise([&, text = std::string(second != 0 ? reinterpret_cast<const char*>(second) : "")] {
-        control_.AssignWindowText(text);
-      });
+      AssignText(reinterpret_cast<const char*>(second));
       return TRUE;
     case WM_CLOSE:
       // From a foreign program: nothing that a control could close by itself.
@@ -285,8 +293,7 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_GETOBJECT:
       // The object's number has 32 bits, whatever the width of the parameter.
       if (static_cast<LONG>(second) == OBJID_CLIENT && IsSpokenByName()) {
-        const auto self = std::static_pointer_cast<ControlWindow>(shared_from_this());
-        if (const LRESULT answer = AnswerSpokenObject(self, first); answer != 0) return answer;
+        if (const LRESULT answer = SpokenAnswer(first); answer != 0) return answer;
       }
       break;
     case WM_MOUSEMOVE:

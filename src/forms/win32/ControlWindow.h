@@ -71,6 +71,8 @@ class ControlWindow : public Window {
   PressState FocusByPress() const;
   bool BeginPress(bool takesFocus);
   bool EndPress(LPARAM position);
+  void AssignText(const char* text);
+  LRESULT SpokenAnswer(WPARAM first);
   void ShowText();
   void ShowVisible();
   void GiveFocusAway();

@@ -401,6 +401,13 @@ void FormWindow::Moved(const WINDOWPOS& change) {
   System().Raise([&] { form_.UserShows(visible); });
 }
 
+LRESULT FormWindow::TakeCaption(WPARAM first, LPARAM second) {
+  const LRESULT answer = Window::OnMessage(WM_SETTEXT, first, second);
+  const auto* text = reinterpret_cast<const char*>(second);
+  if (Alive()) System().Raise([&] { form_.SetCaption(text != nullptr ? text : ""); });
+  return answer;
+}
+
 LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   if (IsEvent(message, first, second) || IsFocusMove(message, first, second)) return 0;
   if (!Alive()) return 0;
@@ -434,12 +441,8 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       if (Alive() && second != 0) Moved(*reinterpret_cast<const WINDOWPOS*>(second));
       return answer;
     }
-    case WM_SETTEXT: {
-      const LRESULT answer = Window::OnMessage(message, first, second);
-      const auto* text = reinterpret_cast<const char*>(second);
-      if (Alive()) System().Raise([&] { form_.SetCaption(text != nullptr ? text : ""); });
-      return answer;
-    }
+    case WM_SETTEXT:
+      return TakeCaption(first, second);
     default:
       break;
   }

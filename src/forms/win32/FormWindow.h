@@ -76,6 +76,7 @@ class FormWindow : public Window {
   bool GoesWithOwner() const;
   void AboutToMove(const WINDOWPOS& change);
   void Moved(const WINDOWPOS& change);
+  LRESULT TakeCaption(WPARAM first, LPARAM second);
   static bool IsCovered(HWND control, const FormWindow& panel);
   bool CanHaveFocus(HWND control) const;
   LRESULT Closing(UINT message, WPARAM first);

@@ -31,7 +31,7 @@ class CallGate {
     if (!Records()) return fault ? Result(onFault(*fault)) : act();
     // Before the call, which may close what its arguments name.
     const std::string line = Line(name, shown...);
-    const Result result = fault ? Result(onFault(*fault)) : act();
+    Result result = fault ? Result(onFault(*fault)) : act();
     Add(line + " -> " + Show(result));
     return result;
   }
