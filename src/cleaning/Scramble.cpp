@@ -20,7 +20,7 @@ char RandomCharacter(RandomNumbers& random, int range, int first) {
 
 // One row for what lies inside the file and one for the byte that makes it grow: should the disk
 // be full, only the growth fails.
-std::vector<Overwrite> SplitAtEnd(std::string head, std::uint64_t length) {
+std::vector<Overwrite> SplitAtEnd(const std::string& head, std::uint64_t length) {
   std::vector<Overwrite> rows;
   const std::size_t inside = std::min<std::uint64_t>(head.size(), length);
   if (inside > 0) rows.push_back({0, head.substr(0, inside)});
@@ -47,7 +47,7 @@ std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, Random
   // Each pass writes the marked byte anew; only the pass that stands on it itself, and is the
   // last, leaves its own.
   if (marked + 1 < passes) head[marked] = mark;
-  std::vector<Overwrite> rows = SplitAtEnd(std::move(head), length);
+  std::vector<Overwrite> rows = SplitAtEnd(head, length);
   if (marked >= passes) rows.push_back({marked, std::string(1, mark)});
   return rows;
 }

@@ -5,7 +5,7 @@
 namespace vantrel::fileutil {
 namespace {
 
-constexpr std::size_t BlockSize = 256 * 1024;
+constexpr std::size_t BlockSize = std::size_t{256} * 1024;
 
 }  // namespace
 

@@ -30,7 +30,7 @@ std::string BrowseForFolder(program::Program& program, const std::string& startF
     program.toolkit.ThrowIfEnding();
     return {};
   }
-  const std::string path = PathOfItemList(shell, chosen);
+  std::string path = PathOfItemList(shell, chosen);
   shell.CoTaskMemFree(chosen);
   program.toolkit.ThrowIfEnding();
   return path;
