@@ -69,16 +69,28 @@ Wine() { "${wineLauncher[@]}" /usr/bin/wine "$@"; }
 
 WineServer() { "${wineLauncher[@]}" /usr/bin/wineserver "$@"; }
 
+# MakePluginFolder: the browser's folder of plug-ins, which the plug-in panel reads; Wine's browser
+# has none. Programs of 32 bits look for it in a view of the registry of their own.
+MakePluginFolder() {
+  local view key='HKLM\Software\Microsoft\IE Setup\Setup' browser='Program Files\Internet Explorer'
+  mkdir -p "$WINEPREFIX/drive_c/${browser//\\//}/PLUGINS"
+  for view in 32 64; do
+    [[ $view != 64 || $WINEARCH == win64 ]] || continue
+    Wine reg add "$key" /v Path /d "C:\\$browser" /f /reg:$view || return 1
+  done
+}
+
 # MakePrefix: makes the prefix when it is new; no server is left running in it.
 MakePrefix() {
-  [[ ! -e $WINEPREFIX/vantrel-ready ]] || return 0
+  [[ ! -e $WINEPREFIX/vantrel-prepared ]] || return 0
   mkdir -p "$WINEPREFIX" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
   Wine wineboot -i || return 1
+  MakePluginFolder || return 1
   WineServer -w
   # Debian's Wine does not look into its own font folder by itself: without these fonts captions
   # come out bold and wide, and caption buttons as letters.
   ln -sfn /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
-  touch "$WINEPREFIX/vantrel-ready"
+  touch "$WINEPREFIX/vantrel-prepared"
 }
 
 # PrepareWine [user]: on Wine's own desktop window, because without a window manager keys reach

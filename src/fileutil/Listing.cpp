@@ -1,7 +1,10 @@
 #include "fileutil/Listing.h"
 
+#include <algorithm>
+
 #include "fileutil/FileErrors.h"
 #include "platform/Handles.h"
+#include "text/Strings.h"
 
 namespace vantrel::fileutil {
 namespace {
@@ -24,6 +27,18 @@ Listing ListFiles(platform::Folders& folders, const std::string& pattern,
     return (entry.Attributes & ListedOnDemand & ~attributes) != 0;
   });
   return listing;
+}
+
+std::vector<std::string> FileNames(platform::Folders& folders, const std::string& folder) {
+  if (!folders.FolderExists(folder)) throw text::RuntimeError(text::ErrorNumber::PathNotFound);
+  const Listing listing = ListFiles(folders, WithBackslash(folder) + "*.*", 0);
+  listing.RaiseError();
+  std::vector<std::string> names;
+  for (const platform::DirectoryEntry& entry : listing.Entries) names.push_back(entry.Name);
+  std::sort(names.begin(), names.end(), [](const std::string& one, const std::string& other) {
+    return text::LowerCase(one) < text::LowerCase(other);
+  });
+  return names;
 }
 
 bool IsDotEntry(const platform::DirectoryEntry& entry) {

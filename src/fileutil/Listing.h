@@ -25,6 +25,10 @@ struct Listing {
 // other bits have no effect. No match and a missing folder are an empty listing, no error.
 Listing ListFiles(platform::Folders& folders, const std::string& pattern, std::uint32_t attributes);
 
+// The names of a folder's ordinary files, sorted without regard to case, as a list of files shows
+// them. Error 76 for a missing folder or a file in its place; the error of a listing that fails.
+std::vector<std::string> FileNames(platform::Folders& folders, const std::string& folder);
+
 // "." and "..", which a listing of folders has.
 bool IsDotEntry(const platform::DirectoryEntry& entry);
 

@@ -1,5 +1,8 @@
 #include "iemaintenance/Attach.h"
 
+#include "fileutil/Listing.h"
+#include "iemaintenance/PluginInventory.h"
+#include "iemaintenance/PluginRemoval.h"
 #include "program/PanelHosting.h"
 #include "windows/FrmFrameIEPlugin.h"
 #include "windows/FrmFrameIESettings.h"
@@ -7,18 +10,28 @@
 namespace vantrel::iemaintenance {
 namespace {
 
-template <class Slot>
-void HostOnLoad(program::Program& program, Slot& slot) {
-  slot.OnMade([&program](auto& panel) {
-    panel.Load = [&program, &panel] { program::HostPanel(program, panel); };
-  });
+using program::Program;
+
+void AttachPlugins(Program& program, windows::FrmFrameIEPlugin& form) {
+  form.flbpluginsfile.ReadFolder = [&program](const std::string& path) {
+    return fileutil::FileNames(program.platform.folders, path);
+  };
+  form.Load = [&program, &form] {
+    program::HostPanel(program, form);
+    LoadPluginList(program);
+  };
+  form.cmdRefreshBHO.Click = [&program] { LoadPluginList(program); };
+  form.cmddeleteBHO.Click = [&program] { cmddeleteBHO_Click(program); };
 }
 
 }  // namespace
 
-void AttachIEMaintenance(program::Program& program) {
-  HostOnLoad(program, program.windows.FrmFrameIESettings);
-  HostOnLoad(program, program.windows.FrmFrameIEPlugin);
+void AttachIEMaintenance(Program& program) {
+  program.windows.FrmFrameIESettings.OnMade([&program](windows::FrmFrameIESettings& form) {
+    form.Load = [&program, &form] { program::HostPanel(program, form); };
+  });
+  program.windows.FrmFrameIEPlugin.OnMade(
+      [&program](windows::FrmFrameIEPlugin& form) { AttachPlugins(program, form); });
 }
 
 }  // namespace vantrel::iemaintenance

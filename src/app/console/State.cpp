@@ -17,6 +17,8 @@ using memory::HKeyUsers;
 
 constexpr const char* FreshRegistry = R"(REGEDIT4
 
+[HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\IE Setup\Setup]
+"Path"="C:\\Program Files\\Internet Explorer"
 [HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Internet Explorer]
 "Version"="6.0.2900.2180"
 [HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Internet Explorer\Toolbar]
@@ -106,6 +108,7 @@ std::unique_ptr<memory::World> FreshWindows() {
   memory::ImportReg(world->registry, FreshRegistry);
   const std::string folder = ProgramFolder;
   world->files.MakeFolder(folder + "Settings");
+  world->files.MakeFolder("C:\\Program Files\\Internet Explorer\\PLUGINS");
   for (const char* page : HelpPages) {
     world->files.Put(folder + "help\\" + page,
                      "<html><body>" + std::string(page) + "</body></html>\r\n");

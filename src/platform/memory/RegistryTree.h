@@ -66,6 +66,9 @@ class RegistryTree {
  public:
   RegistryTree();
 
+  // Values of a key opened with an empty mask can be read, as on systems of the 9x family.
+  bool readsWithoutAccess = false;
+
   void MakeKey(KeyHandle root, const std::string& subkey);
   bool HasKey(KeyHandle root, const std::string& subkey) const;
   // With all that is below; handles to them stay open and answer 1018.

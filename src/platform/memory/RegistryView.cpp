@@ -104,6 +104,7 @@ std::int32_t RegistryView::Grant(const std::shared_ptr<RegistryKey>& key, std::u
     return ErrorAccessDenied;
   }
   if ((access & MaximumAllowed) != 0) granted = allowed;
+  if (access == 0 && tree_.readsWithoutAccess) granted = QueryValue;
   opened = next_;
   next_ += 4;
   open_[opened] = {key, granted};

@@ -42,10 +42,16 @@ void ExpectRefused(Machine& machine) {
   EXPECT_THAT(machine.world.tray.Icons(), IsEmpty());
 }
 
-// The boxes of a start: only the refresh of the counters reports what it cannot read.
+// The boxes of a start: only the refresh of the counters and the list of the plug-in folder report
+// what they cannot read.
 void ExpectSilence(const Machine& machine) {
   if (machine.FailedIn(BlockLog)) {
     EXPECT_THAT(machine.BoxTexts(*machine.copy), Each("Type mismatch"));
+  } else if (machine.FailedRead("\\IE Setup\\Setup") || machine.FailedIs("FolderExists ")) {
+    EXPECT_THAT(machine.BoxTexts(*machine.copy), ElementsAre("Some error occured: Path not found"));
+  } else if (machine.FailedIs("ListFolder ")) {
+    EXPECT_THAT(machine.BoxTexts(*machine.copy),
+                ElementsAre("Some error occured: Permission denied"));
   } else {
     EXPECT_THAT(machine.BoxTexts(*machine.copy), IsEmpty());
   }

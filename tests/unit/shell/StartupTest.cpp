@@ -56,6 +56,14 @@ TEST_F(Startup, ANormalStartEndsWithBlockingStartedOnTheWelcomePanel) {
   EXPECT_THAT(BoxTexts(*copy), IsEmpty());
 }
 
+TEST_F(Startup, ABrowserWithoutAFolderOfPlugInsIsSpokenOfOnceAndTheStartGoesOn) {
+  world.files.Remove(test::PluginFolder);
+  auto copy = StartCopy();
+  EXPECT_THAT(BoxTexts(*copy), ElementsAre("Some error occured: Path not found"));
+  EXPECT_TRUE(copy->program.BlockingActive);
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+}
+
 std::vector<std::string> LoadedNames(const test::Copy& copy) {
   std::vector<std::string> names;
   for (const forms::Form* form : copy.toolkit.LoadedForms()) names.push_back(form->Name());
