@@ -45,7 +45,7 @@ std::string CaptionAround(const Control& control) {
 
 // The name by itself, without a look at the others of the window.
 std::string OwnName(Control& control) {
-  const std::string caption = CaptionOf(Shown(control));
+  const std::string caption = CaptionShown(control);
   const std::string& tip = TipOf(control);
   if (IsSpokenLink(control) && tip.size() > caption.size() && tip.starts_with(caption + ' ')) {
     return tip;
@@ -64,6 +64,8 @@ bool IsNameOfAnother(const std::string& name, const Control& control) {
 }
 
 }  // namespace
+
+std::string CaptionShown(Control& control) { return CaptionOf(Shown(control)); }
 
 std::string WithoutMarks(const std::string& caption) {
   std::string text;

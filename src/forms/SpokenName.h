@@ -18,6 +18,10 @@ std::string SpokenName(Control& control);
 // The tool tip, if it says more than the name.
 std::string SpokenDescription(Control& control);
 
+// What is written on the control, with its marks: its caption, or as a link that of its face; empty
+// for a control without one.
+std::string CaptionShown(Control& control);
+
 // A caption as it shows: a single & marks the access key, a double one is shown.
 std::string WithoutMarks(const std::string& caption);
 
