@@ -1,40 +1,21 @@
 #include "app/console/Commands.h"
 
-#include <string_view>
-
-#include "app/console/Names.h"
-#include "app/console/Words.h"
+#include <algorithm>
+#include <cstddef>
 
 namespace vantrel::console {
 namespace {
 
-std::string_view Family(const Command& command) {
-  const std::string_view name = command.Name;
-  return name.substr(0, name.find(' '));
-}
+std::string FirstWord(const Command& command) { return SplitWords(command.Name).front(); }
+std::string LastWord(const Command& command) { return SplitWords(command.Name).back(); }
 
-std::string_view Member(const Command& command) {
-  const std::string_view name = command.Name;
-  const std::size_t blank = name.find(' ');
-  return blank == std::string_view::npos ? std::string_view() : name.substr(blank + 1);
-}
-
-std::vector<std::string> Families() {
-  std::vector<std::string> families;
-  for (const Command& command : Commands()) {
-    if (families.empty() || families.back() != Family(command)) {
-      families.emplace_back(Family(command));
-    }
-  }
-  return families;
-}
-
-std::vector<const Command*> MembersOf(std::string_view family) {
-  std::vector<const Command*> members;
-  for (const Command& command : Commands()) {
-    if (Family(command) == family) members.push_back(&command);
-  }
-  return members;
+// The commands that share the first word of their name; they stand together.
+std::span<const Command> FamilyOf(const std::string& word) {
+  const std::size_t place = PickName("command", word, Texts(Commands(), FirstWord));
+  const auto first = Commands().begin() + static_cast<std::ptrdiff_t>(place);
+  return {first, std::find_if(first, Commands().end(), [&first](const Command& command) {
+            return FirstWord(command) != FirstWord(*first);
+          })};
 }
 
 std::string Usage(const Command& command) {
@@ -42,76 +23,44 @@ std::string Usage(const Command& command) {
   return command.Name + (arguments.empty() ? "" : " " + arguments);
 }
 
-struct Found {
-  const Command* What;
-  std::size_t NameWords;
-};
-
-Found FindName(const Words& words) {
-  const std::vector<std::string> families = Families();
-  const std::string& family = families[PickName("command", words.front(), families)];
-  const std::vector<const Command*> members = MembersOf(family);
-  if (Member(*members.front()).empty()) return {members.front(), 1};
-  std::vector<std::string> names;
-  names.reserve(members.size());
-  for (const Command* member : members) names.emplace_back(Member(*member));
-  const std::string second = words.size() > 1 ? words[1] : std::string();
-  return {members[PickName(family + " command", second, names)], 2};
-}
-
-std::string HelpLine(const Command& command) {
-  return Usage(command) + "\n    " + command.Help + '\n';
-}
-
-// The bars of alternatives would end a column of the document.
-std::string InColumn(std::string text) {
-  for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2)) {
-    text.insert(at, "\\");
-  }
-  return text;
+bool Takes(const Command& command, std::size_t count) {
+  Words arguments = SplitWords(command.Arguments);
+  const bool anyMore = !arguments.empty() && arguments.back().starts_with("...");
+  if (anyMore) arguments.pop_back();
+  const auto optional = std::find_if(arguments.begin(), arguments.end(),
+                                     [](const std::string& word) { return word.front() == '['; });
+  return count >= static_cast<std::size_t>(optional - arguments.begin()) &&
+         (anyMore || count <= arguments.size());
 }
 
 }  // namespace
 
 const std::vector<Command>& Commands() {
-  static const std::vector<Command> all = [] {
-    std::vector<Command> rows;
-    for (const auto table : {ProgramCommands, WindowCommands, WorldCommands, StoreCommands}) {
-      rows.insert(rows.end(), table().begin(), table().end());
-    }
-    return rows;
-  }();
+  static std::vector<Command> all;
+  if (!all.empty()) return all;
+  for (const auto table : {ProgramCommands, WindowCommands, StoreCommands}) {
+    all.insert(all.end(), table().begin(), table().end());
+  }
   return all;
 }
 
-Call FindCommand(const Words& words) {
-  const Found found = FindName(words);
-  Call call{found.What,
-            Words(words.begin() + static_cast<std::ptrdiff_t>(found.NameWords), words.end())};
-  const std::size_t count = call.Behind.size();
-  if (count < found.What->Least || count > found.What->Most) {
-    throw CommandError("it goes: " + Usage(*found.What));
+void RunCommand(Session& session, const Words& words) {
+  const std::span<const Command> family = FamilyOf(words.front());
+  const Command* found = &family.front();
+  const std::size_t nameWords = SplitWords(found->Name).size();
+  if (nameWords > 1) {
+    const std::string member = words.size() > 1 ? words[1] : std::string();
+    found = &family[PickName(FirstWord(*found) + " command", member, Texts(family, LastWord))];
   }
-  return call;
+  const Words behind(words.begin() + static_cast<std::ptrdiff_t>(nameWords), words.end());
+  if (!Takes(*found, behind.size())) throw CommandError("it goes: " + Usage(*found));
+  found->Run(session, behind);
 }
 
 std::string HelpText(const Words& words) {
   std::string text;
-  if (words.empty()) {
-    for (const Command& command : Commands()) text += HelpLine(command);
-    return text;
-  }
-  const std::vector<std::string> families = Families();
-  const std::string& family = families[PickName("command", words.front(), families)];
-  if (words.size() > 1) return HelpLine(*FindName(words).What);
-  for (const Command* member : MembersOf(family)) text += HelpLine(*member);
-  return text;
-}
-
-std::string HelpDocument() {
-  std::string text = "| command | what it does |\n|---|---|\n";
-  for (const Command& command : Commands()) {
-    text += "| `" + InColumn(Usage(command)) + "` | " + InColumn(command.Help) + " |\n";
+  for (const Command& command : words.empty() ? std::span(Commands()) : FamilyOf(words.front())) {
+    text += Usage(command) + "\n    " + command.Help + '\n';
   }
   return text;
 }

@@ -1,53 +1,40 @@
 // The console's commands: tables by subject, whose rows hold the name, what stands behind it, a
-// line of help, how many words it takes, and the function that does it. Help and the document are
-// made from them. A new command is one row and its function.
+// line of help, and the function that does it. The check of a line, the help and the document are
+// made from them. A new command is one row.
 #ifndef VANTREL_APP_CONSOLE_COMMANDS_H_
 #define VANTREL_APP_CONSOLE_COMMANDS_H_
 
-#include <cstddef>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "app/console/Session.h"
+#include "app/console/Words.h"
 
 namespace vantrel::console {
 
-using Words = std::vector<std::string>;
-
-inline constexpr std::size_t AnyNumber = 1000000;
-
-// `Run` gets the words behind the name, as many as the row allows; CommandError if it cannot be
-// done.
 struct Command {
-  const char* Name;       // one word, or two: a family and its member
-  const char* Arguments;  // as help shows them
+  const char* Name;  // one word, or two: a family and its member
+  // One word each, "A|B" for one or the other; in brackets at the end those that may be missing;
+  // "..." at last for any number more. Help shows them so.
+  const char* Arguments;
   const char* Help;
-  std::size_t Least;  // how many words it takes
-  std::size_t Most;
+  // Gets the words behind the name, as many as there may be; CommandError if it cannot be done.
   void (*Run)(Session& session, const Words& words);
 };
 
-std::span<const Command> ProgramCommands();  // the program's life, and the console's
-std::span<const Command> WindowCommands();   // its windows
-std::span<const Command> WorldCommands();    // the Windows around it
-std::span<const Command> StoreCommands();    // its registry and files
+std::span<const Command> ProgramCommands();  // the program's life, the console's, and Windows'
+std::span<const Command> WindowCommands();   // the program's windows
+std::span<const Command> StoreCommands();    // registry and files
 
 const std::vector<Command>& Commands();
 
-// The words of a line and the command they name; the words behind the name are left.
-struct Call {
-  const Command* What = nullptr;
-  Words Behind;
-};
+// Does what the line's words say, of which there is one at least. CommandError for an unknown
+// command, for too few or too many words, and if it cannot be done.
+void RunCommand(Session& session, const Words& words);
 
-// CommandError for an unknown command and for too few or too many words. `words` is not empty.
-Call FindCommand(const Words& words);
-
-// The text of help: all commands, or the one that is named.
+// The text of help: all commands, or those that have this first word in common.
 std::string HelpText(const Words& words);
-// The tables as the document has them.
-std::string HelpDocument();
 
 }  // namespace vantrel::console
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/console/Boxes.h"
+#include "app/console/Commands.h"
 #include "app/console/Screen.h"
 #include "app/console/State.h"
 #include "app/console/Words.h"
@@ -15,11 +15,101 @@ namespace vantrel::console {
 
 namespace memory = platform::memory;
 
-Session::Session(std::ostream& out) : out_(out), world_(FreshWindows()) { world_->trace.Start(); }
+namespace {
 
-// The later copies were started by the earlier ones' hand and go first.
+// The numbers of the buttons that a message box of the style has, in their order.
+const std::vector<int>& ButtonsOf(std::uint32_t style) {
+  static const std::array<std::vector<int>, 6> byKind{
+      {{1}, {1, 2}, {3, 4, 5}, {6, 7, 2}, {6, 7}, {4, 2}}};
+  return byKind[(style & 15U) < byKind.size() ? style & 15U : 0];
+}
+
+}  // namespace
+
+Session::Session(std::istream& in, std::ostream& out, Options options)
+    : in_(in), out_(out), options_(options) {
+  Replace(FreshWindows());
+}
+
+// The later copies were started on the stack of the earlier ones and go first.
 Session::~Session() {
   while (!copies_.empty()) copies_.pop_back();
+}
+
+bool Session::Run() {
+  while (DoNext()) {
+  }
+  return !failed_;
+}
+
+// False at the end of the lines. Also called while a modal window waits, from within a command.
+bool Session::DoNext() {
+  if (quitting_) return false;
+  if (options_.Prompt) out_ << "> " << std::flush;
+  std::string line;
+  if (!std::getline(in_, line)) return false;
+  if (line.ends_with('\r')) line.pop_back();
+  if (options_.Echo) Say("> " + Printable(line.substr(0, LongestLine)));
+  DoLine(line);
+  out_.flush();
+  return !quitting_;
+}
+
+void Session::DoLine(const std::string& line) {
+  try {
+    const Words words = SplitWords(line);
+    if (words.empty()) return;
+    BeginCommand();
+    const struct Ending {
+      Session& session;
+      ~Ending() { session.EndCommand(); }
+    } ending{*this};
+    RunCommand(*this, words);
+  } catch (const CommandError& error) {
+    Say("error: " + Printable(error.what()));
+    failed_ = true;
+    if (!options_.KeepGoing) Quit();
+  }
+}
+
+void Session::BeginCommand() {
+  ++depth_;
+  lastCalls_ = world_->trace.Lines();
+  world_->trace.Clear();
+  seen_.calls = 0;
+}
+
+void Session::EndCommand() {
+  Settle();
+  // A copy whose handler waits further up the stack is kept until that has returned.
+  if (--depth_ > 0) return;
+  for (const auto& copy : copies_) {
+    if (copy->Ended()) Say("copy " + std::to_string(copy->Number) + " has ended");
+  }
+  std::erase_if(copies_, [](const auto& copy) { return copy->Ended(); });
+}
+
+// Lets the copies handle what is queued, and prints what the Windows has seen.
+void Session::Settle() {
+  for (std::size_t i = 0; i < copies_.size(); ++i) {
+    if (!copies_[i]->Ended()) copies_[i]->Toolkit.Pump();
+  }
+  SayEvents();
+  const Copy* copy = Running();
+  const std::string screen = copy == nullptr ? "" : ScreenLine(copy->Toolkit);
+  if (screen != seen_.screen && !screen.empty()) Say("screen: " + screen);
+  seen_.screen = screen;
+}
+
+void Session::SayEvents() {
+  const auto sayNew = [this](const char* what, const auto& rows, std::size_t& seen, auto text) {
+    for (; seen < rows.size(); ++seen) Say(what + Printable(std::invoke(text, rows[seen])));
+  };
+  if (TracePrinted) sayNew("call: ", world_->trace.Lines(), seen_.calls, std::identity());
+  sayNew("sound: ", world_->playedSounds, seen_.sounds, &memory::PlayedSound::path);
+  sayNew("started: ", world_->programs.Started(), seen_.started,
+         &memory::StartedProcess::commandLine);
+  sayNew("opened: ", world_->openedDocuments, seen_.opened, &memory::OpenedDocument::file);
 }
 
 void Session::Replace(std::unique_ptr<memory::World> world) {
@@ -29,87 +119,60 @@ void Session::Replace(std::unique_ptr<memory::World> world) {
   seen_ = {};
 }
 
-bool Session::Running() const {
-  return std::any_of(copies_.begin(), copies_.end(),
-                     [](const auto& copy) { return !copy->Ended(); });
-}
-
-Copy& Session::Current() {
-  const auto running = std::find_if(copies_.rbegin(), copies_.rend(),
-                                    [](const auto& copy) { return !copy->Ended(); });
-  if (running == copies_.rend()) throw CommandError("the program does not run; start it first");
-  return **running;
-}
-
 void Session::Start(const std::string& commandLine) {
-  auto made = std::make_unique<Copy>(*world_, nextNumber_, commandLine);
-  Copy& copy = *made;
-  ++nextNumber_;
-  copies_.push_back(std::move(made));
-  Wire(copy);
-  for (const Fault& fault : waitingFaults_) Apply(fault, copy);
-  waitingFaults_.clear();
-  shell::AttachProgram(copy.Program);
-  shell::Start(copy.Program);
-  if (!copy.Ended()) Say("copy " + std::to_string(copy.Number) + " runs");
-}
-
-void Session::Wire(Copy& copy) {
+  copies_.push_back(std::make_unique<Copy>(*world_, nextNumber_++, commandLine));
+  Copy& copy = *copies_.back();
+  copy.Process.EndThread = [&copy] { copy.Toolkit.End(); };
   copy.Process.AnswerBox = [this](const memory::Box& box) { return AnswerBox(box); };
   copy.Toolkit.WaitForEvents = [this, &copy] { return WaitInModal(copy); };
   copy.Toolkit.ChooseFromPopup = [this](forms::Menu& menu) {
     return ChooseFromPopup ? ChooseFromPopup(menu) : nullptr;
   };
+  copy.Process.Faults() = std::exchange(nextFaults_, {});
+  shell::AttachProgram(copy.Program);
+  shell::Start(copy.Program);
+  if (!copy.Ended()) Say("copy " + std::to_string(copy.Number) + " runs");
 }
 
 int Session::AnswerBox(const memory::Box& box) {
-  const std::vector<int> buttons = ButtonsOf(box.style);
-  const auto fits = [&buttons](int answer) {
-    return std::find(buttons.begin(), buttons.end(), answer) != buttons.end();
-  };
-  const auto waiting = std::find_if(Answers.begin(), Answers.end(), fits);
-  int answer = DefaultButton(box.style);
-  if (waiting != Answers.end()) {
-    answer = *waiting;
-    Answers.erase(waiting);
+  const std::vector<int>& buttons = ButtonsOf(box.style);
+  const std::size_t byDefault = (box.style >> 8U) & 3U;
+  int answer = buttons[std::min(byDefault, buttons.size() - 1)];
+  const auto given =
+      std::find_first_of(Answers.begin(), Answers.end(), buttons.begin(), buttons.end());
+  if (given != Answers.end()) {
+    answer = *given;
+    Answers.erase(given);
   }
-  BoxLines.push_back('[' + Printable(box.title) + "] " + Printable(box.text) + " -> " +
-                     ButtonName(answer));
-  Say(BoxLines.back());
+  boxLines_.push_back('[' + Printable(box.title) + "] " + Printable(box.text) + " -> " +
+                      ButtonNames[static_cast<std::size_t>(answer) - 1]);
+  Say(boxLines_.back());
   return answer;
 }
 
 // With nobody left to close it, the window goes.
 bool Session::WaitInModal(Copy& copy) {
   Settle();
-  if (!Quitting && DoNext && DoNext()) return true;
-  Quitting = true;
+  if (DoNext()) return true;
+  Quit();
   if (forms::Form* form = copy.Toolkit.ModalForm()) form->Hide();
   return true;
 }
 
-void Session::Fail(const Fault& fault) {
-  if (Running()) {
-    Apply(fault, Current());
-  } else {
-    waitingFaults_.push_back(fault);
-  }
+Copy* Session::Running() const {
+  const auto running = std::find_if(copies_.rbegin(), copies_.rend(),
+                                    [](const auto& copy) { return !copy->Ended(); });
+  return running == copies_.rend() ? nullptr : running->get();
 }
 
-void Session::ClearFaults() {
-  waitingFaults_.clear();
-  if (Running()) Current().Process.Faults().Clear();
+Copy& Session::Current() {
+  if (Copy* copy = Running()) return *copy;
+  throw CommandError("the program does not run; start it first");
 }
 
-void Session::Apply(const Fault& fault, Copy& copy) const {
-  memory::FaultPlan& faults = copy.Process.Faults();
-  if (fault.Nth == 0) {
-    faults.FailEvery(fault.Call, fault.Code);
-  } else if (fault.Call.empty()) {
-    faults.FailNthCall(fault.Nth, fault.Code);
-  } else {
-    faults.FailCall(fault.Call, fault.Nth, fault.Code);
-  }
+memory::FaultPlan& Session::Faults() {
+  Copy* copy = Running();
+  return copy == nullptr ? nextFaults_ : copy->Process.Faults();
 }
 
 void Session::Advance(std::uint64_t milliseconds) {
@@ -118,60 +181,10 @@ void Session::Advance(std::uint64_t milliseconds) {
   world_->clock.Advance(milliseconds);
 }
 
-void Session::Before() {
-  ++depth_;
-  lastCalls_ = world_->trace.Lines();
-  world_->trace.Clear();
-  seen_.calls = 0;
-}
-
-void Session::After() {
-  Settle();
-  // A copy whose handler waits further up the stack is kept until that has returned.
-  if (--depth_ == 0) DropEnded();
-}
-
-void Session::Settle() {
-  for (std::size_t i = 0; i < copies_.size(); ++i) {
-    if (!copies_[i]->Ended()) copies_[i]->Toolkit.Pump();
-  }
-  TellEvents();
-  TellScreen();
-}
-
-void Session::SayLastCalls() {
-  for (const std::string& line : lastCalls_) Say("call: " + Printable(line));
-  if (lastCalls_.empty()) Say("no call");
-}
-
-void Session::TellEvents() {
-  const std::vector<std::string>& calls = world_->trace.Lines();
-  for (; TracePrinted && seen_.calls < calls.size(); ++seen_.calls) {
-    Say("call: " + Printable(calls[seen_.calls]));
-  }
-  for (; seen_.sounds < world_->playedSounds.size(); ++seen_.sounds) {
-    Say("sound: " + Printable(world_->playedSounds[seen_.sounds].path));
-  }
-  for (; seen_.started < world_->programs.Started().size(); ++seen_.started) {
-    Say("started: " + Printable(world_->programs.Started()[seen_.started].commandLine));
-  }
-  for (; seen_.opened < world_->openedDocuments.size(); ++seen_.opened) {
-    Say("opened: " + Printable(world_->openedDocuments[seen_.opened].file));
-  }
-}
-
-void Session::TellScreen() {
-  const std::string screen = Running() ? ScreenLine(Current().Toolkit) : std::string();
-  if (screen == seen_.screen) return;
-  seen_.screen = screen;
-  if (!screen.empty()) Say("screen: " + screen);
-}
-
-void Session::DropEnded() {
-  for (const auto& copy : copies_) {
-    if (copy->Ended()) Say("copy " + std::to_string(copy->Number) + " has ended");
-  }
-  std::erase_if(copies_, [](const auto& copy) { return copy->Ended(); });
+void Session::SayAll(const std::vector<std::string>& lines, const std::string& prefix,
+                     const char* none) {
+  for (const std::string& line : lines) Say(prefix + Printable(line));
+  if (lines.empty()) Say(none);
 }
 
 }  // namespace vantrel::console

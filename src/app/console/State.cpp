@@ -1,13 +1,19 @@
 #include "app/console/State.h"
 
-#include <array>
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <sstream>
 #include <string_view>
 
+#include "app/console/Screen.h"
 #include "app/console/Words.h"
 #include "platform/memory/Process.h"
 #include "platform/memory/RegFile.h"
+#include "text/Strings.h"
 
 namespace vantrel::console {
 namespace {
@@ -36,69 +42,41 @@ constexpr const char* FreshRegistry = R"(REGEDIT4
 "1201"=dword:00000001
 )";
 
-constexpr const char* ProgramFolder = "C:\\Program Files\\Vantrel\\";
+constexpr const char* HelpPages =
+    "Allowedlist|Block Preferences|cleaning|Graph|IE Settings|Notification|Notificationsettings|"
+    "settings|ViewToolbar|welcome";
+constexpr const char* Sounds = "alert|click|crash|double|drop|pop|pop2|slip|vanish|vaporize|woosh";
 
-constexpr std::array HelpPages{
-    "Allowedlist.htm",
-    "Block Preferences.htm",
-    "cleaning.htm",
-    "Graph.htm",
-    "IE Settings.htm",
-    "Notification.htm",
-    "Notificationsettings.htm",
-    "settings.htm",
-    "ViewToolbar.htm",
-    "welcome.htm",
-};
-
-constexpr std::array Sounds{
-    "alert", "click", "crash",  "double",   "drop",  "pop",
-    "pop2",  "slip",  "vanish", "vaporize", "woosh",
-};
-
-constexpr std::array Programs{
-    memory::Process::DefaultExecutable,
-    "C:\\Program Files\\Internet Explorer\\iexplore.exe",
-    "C:\\WINDOWS\\notepad.exe",
-};
-
-// In the state, below HKEY_USERS: the clock as a text, each file and folder with its attributes,
-// and each file's bytes.
+// In the state, below HKEY_USERS. Each file and folder is a value by its path, a folder's with a
+// backslash: a byte with its attributes, then a file's bytes. The clock comes last: a state that
+// was cut has none.
 constexpr const char* StateKey = "Vantrel Console";
-constexpr const char* AttributesKey = "Vantrel Console\\Attributes";
-constexpr const char* ContentsKey = "Vantrel Console\\Contents";
+constexpr const char* FilesKey = "Vantrel Console\\Files";
+constexpr const char* EndKey = "Vantrel Console\\Files\\End";
 
-constexpr std::string_view Header = "REGEDIT4\r\n\r\n";
-
-// The key with all below it, without the file's header.
-std::string Exported(const memory::RegistryTree& registry, platform::KeyHandle root) {
-  return memory::ExportReg(registry, root, "", memory::RegFormat::Regedit4).substr(Header.size());
+[[noreturn]] void Refuse(const char* what, const std::string& path, const std::string& why) {
+  throw CommandError(std::string("cannot ") + what + ' ' + Brief(path) + ": " + why);
 }
 
 memory::RegistryTree Kept(const memory::World& world) {
   memory::RegistryTree kept;
   Walk(world.files, "C:", [&](const std::string& path) {
-    kept.SetDword(HKeyUsers, AttributesKey, path, world.files.AttributesOf(path));
-    if (world.files.IsFile(path)) {
-      kept.Set(HKeyUsers, ContentsKey, path, platform::RegBinary, *world.files.Read(path));
-    }
+    const std::string name = path + (world.files.IsFolder(path) ? "\\" : "");
+    const char attributes = static_cast<char>(world.files.AttributesOf(path));
+    kept.Set(HKeyUsers, FilesKey, name, platform::RegBinary,
+             attributes + world.files.Read(path).value_or(""));
   });
-  // Last in its file: a file that was cut has none.
-  kept.SetString(HKeyUsers, std::string(ContentsKey) + "\\End", "Clock", ClockText(world));
+  kept.SetString(HKeyUsers, EndKey, "Clock", TimeText(world.clock.LocalNow()));
   return kept;
 }
 
-void Restore(memory::World& world, const std::string& path, std::uint32_t attributes) {
-  if ((attributes & platform::AttributeDirectory) != 0) {
-    if (!world.files.MakePath(path + '\\')) throw CommandError("no folder can be " + Quoted(path));
+void Restore(memory::FileTree& files, const std::string& path, const std::string& kept) {
+  if (path.ends_with('\\')) {
+    MakeFolder(files, path);
   } else {
-    const auto content = world.registry.Get(HKeyUsers, ContentsKey, path);
-    PutFile(world.files, path, content ? content->data : "");
+    PutFile(files, path, kept.substr(std::min<std::size_t>(kept.size(), 1)));
   }
-}
-
-std::uint32_t NumberOf(const memory::World& world, const std::string& path) {
-  return world.registry.GetDword(HKeyUsers, AttributesKey, path).value_or(0);
+  files.SetAttributes(path, static_cast<unsigned char>(kept[0]));
 }
 
 }  // namespace
@@ -106,20 +84,21 @@ std::uint32_t NumberOf(const memory::World& world, const std::string& path) {
 std::unique_ptr<memory::World> FreshWindows() {
   auto world = std::make_unique<memory::World>();
   memory::ImportReg(world->registry, FreshRegistry);
-  const std::string folder = ProgramFolder;
+  const auto put = [&world](const std::string& path) { world->files.Put(path, "stand-in"); };
+  const std::string folder = "C:\\Program Files\\Vantrel\\";
+  put("C:\\WINDOWS\\notepad.exe");
+  put("C:\\Program Files\\Internet Explorer\\iexplore.exe");
+  put(memory::Process::DefaultExecutable);
   world->files.MakeFolder(folder + "Settings");
   world->files.MakeFolder("C:\\Program Files\\Internet Explorer\\PLUGINS");
-  for (const char* page : HelpPages) {
-    world->files.Put(folder + "help\\" + page,
-                     "<html><body>" + std::string(page) + "</body></html>\r\n");
-  }
-  for (const char* name : Sounds) world->files.Put(folder + "Sound\\" + name + ".wav", "RIFF");
-  for (const char* program : Programs) world->files.Put(program, "MZ");
+  for (const std::string& page : text::Split(HelpPages, '|'))
+    put(folder + "help\\" + page + ".htm");
+  for (const std::string& name : text::Split(Sounds, '|')) put(folder + "Sound\\" + name + ".wav");
   return world;
 }
 
 std::string StateText(const memory::World& world) {
-  std::string text(Header);
+  std::string text = RegHeader;
   for (const platform::KeyHandle root :
        {platform::HKeyClassesRoot, platform::HKeyCurrentUser, platform::HKeyLocalMachine,
         memory::HKeyCurrentConfig, HKeyUsers}) {
@@ -130,48 +109,33 @@ std::string StateText(const memory::World& world) {
 
 std::unique_ptr<memory::World> WindowsFromState(const std::string& text) {
   auto world = std::make_unique<memory::World>();
-  if (!memory::ImportReg(world->registry, text)) {
-    throw CommandError("this is no state of the console: it is no registration file");
-  }
-  const auto clock =
-      world->registry.GetString(HKeyUsers, std::string(ContentsKey) + "\\End", "Clock");
-  if (!clock) throw CommandError("the state is damaged: its end is missing");
+  memory::RegistryTree& registry = world->registry;
+  const bool read = memory::ImportReg(registry, text);
+  const auto clock = registry.GetString(HKeyUsers, EndKey, "Clock");
+  if (!read || !clock) throw CommandError("this is no state of the console, or its end is missing");
   SetClock(*world, *clock);
-  const auto entries = world->registry.Values(HKeyUsers, AttributesKey);
-  for (const auto& entry : entries) Restore(*world, entry.name, NumberOf(*world, entry.name));
-  for (const auto& entry : entries) {
-    world->files.SetAttributes(entry.name, NumberOf(*world, entry.name));
-  }
-  world->registry.RemoveKey(HKeyUsers, StateKey);
+  for (const auto& file : registry.Values(HKeyUsers, FilesKey))
+    Restore(world->files, file.name, file.data);
+  registry.RemoveKey(HKeyUsers, StateKey);
   return world;
 }
 
-std::string ClockText(const memory::World& world) {
-  const memory::LocalTime time = world.clock.LocalNow();
-  std::array<char, 100> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
-                time.day, time.hour, time.minute, time.second);
-  return text.data();
+std::string Exported(const memory::RegistryTree& registry, platform::KeyHandle root,
+                     const std::string& subkey) {
+  return memory::ExportReg(registry, root, subkey, memory::RegFormat::Regedit4)
+      .substr(std::string_view(RegHeader).size());
 }
 
 void SetClock(memory::World& world, const std::string& text) {
   memory::LocalTime time;
-  int end = 0;
-  const int parts = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &time.year, &time.month,
-                                &time.day, &time.hour, &time.minute, &time.second, &end);
-  if (parts != 6 || static_cast<std::size_t>(end) != text.size()) {
-    throw CommandError("the time goes: 2004-03-15 12:00:00");
-  }
-  const auto within = [](int part, int least, int most) { return part >= least && part <= most; };
-  const bool day =
-      within(time.year, 1601, 9999) && within(time.month, 1, 12) && within(time.day, 1, 31) &&
-      std::chrono::year_month_day(std::chrono::year(time.year),
-                                  std::chrono::month(static_cast<unsigned>(time.month)),
-                                  std::chrono::day(static_cast<unsigned>(time.day)))
-          .ok();
-  if (!day) throw CommandError("there is no such day");
-  if (!within(time.hour, 0, 23) || !within(time.minute, 0, 59) || !within(time.second, 0, 59)) {
-    throw CommandError("there is no such time");
+  int length = 0;  // stays 0 if a part is missing
+  std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &time.year, &time.month, &time.day,
+              &time.hour, &time.minute, &time.second, &length);
+  const bool day = (std::chrono::year(time.year) / time.month / time.day).ok() && time.year > 1600;
+  const bool hour = std::min({time.hour, time.minute, time.second}) >= 0 && time.hour < 24 &&
+                    time.minute < 60 && time.second < 60;
+  if (!day || !hour || length == 0 || static_cast<std::size_t>(length) != text.size()) {
+    throw CommandError("there is no such time; it goes: 2004-03-15 12:00:00");
   }
   world.clock.SetLocalTime(time);
 }
@@ -186,18 +150,41 @@ void Walk(const memory::FileTree& files, const std::string& folder,
   }
 }
 
+void MakeFolder(memory::FileTree& files, const std::string& path) {
+  if (!files.MakePath(path + '\\') || !files.IsFolder(path))
+    Refuse("make", path, "it is no folder's path");
+}
+
 void PutFile(memory::FileTree& files, const std::string& path, const std::string& content) {
   const bool folders = files.MakePath(path);
   const std::int32_t code = folders ? files.Write(path, content) : platform::ErrorPathNotFound;
   if (code == platform::ErrorSuccess) return;
-  const std::string why = files.IsFolder(path)                  ? "it is a folder"
-                          : code == platform::ErrorPathNotFound ? "it has no folder"
-                          : code == platform::ErrorInvalidName  ? "it is no name"
-                          : code == platform::ErrorAccessDenied ? "it is read-only"
-                          : code == platform::ErrorSharingViolation
-                              ? "it is locked"
-                              : "error " + std::to_string(code);
-  throw CommandError("cannot write " + Quoted(path.substr(0, 200)) + ": " + why);
+  Refuse("write", path,
+         files.IsFolder(path)                      ? "it is a folder"
+         : code == platform::ErrorAccessDenied     ? "it is read-only"
+         : code == platform::ErrorSharingViolation ? "it is locked"
+         : code == platform::ErrorPathNotFound     ? "it has no folder"
+                                                   : "it is no path");
+}
+
+std::string ReadRealFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  file.peek();  // a folder can be opened, but not read
+  if (!file) Refuse("read", path, std::strerror(errno));
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+void WriteRealFile(const std::string& path, const std::string& content) {
+  const std::string beside = path + ".new";
+  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+  file << content;
+  file.close();
+  if (file && std::rename(beside.c_str(), path.c_str()) == 0) return;
+  const std::string why = std::strerror(errno);
+  std::remove(beside.c_str());
+  Refuse("write", path, why);
 }
 
 }  // namespace vantrel::console

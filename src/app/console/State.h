@@ -19,14 +19,20 @@ std::string StateText(const platform::memory::World& world);
 // CommandError for a text that is no state, or whose end is missing.
 std::unique_ptr<platform::memory::World> WindowsFromState(const std::string& text);
 
-// "2004-03-15 12:00:00"; CommandError for another form, or a day that does not exist.
-std::string ClockText(const platform::memory::World& world);
+inline constexpr const char* RegHeader = "REGEDIT4\r\n\r\n";
+// The key with all below it in the older form of registration files, which keeps every byte of the
+// names and texts; without the header.
+std::string Exported(const platform::memory::RegistryTree& registry, platform::KeyHandle root,
+                     const std::string& subkey = {});
+
+// From "2004-03-15 12:00:00"; CommandError for another form, or a day that does not exist.
 void SetClock(platform::memory::World& world, const std::string& text);
 
 // Every file and folder below the folder, folders before what is in them; links are not followed.
 void Walk(const platform::memory::FileTree& files, const std::string& folder,
           const std::function<void(const std::string&)>& visit);
-// Makes missing folders on the way. CommandError if the file cannot be written.
+// Both make missing folders on the way; CommandError with the reason if that cannot be.
+void MakeFolder(platform::memory::FileTree& files, const std::string& path);
 void PutFile(platform::memory::FileTree& files, const std::string& path,
              const std::string& content);
 

@@ -1,10 +1,7 @@
 #include <algorithm>
-#include <array>
 
 #include "app/console/Commands.h"
-#include "app/console/Names.h"
 #include "app/console/State.h"
-#include "app/console/Words.h"
 #include "platform/memory/RegFile.h"
 #include "text/Strings.h"
 
@@ -14,7 +11,11 @@ namespace {
 namespace memory = platform::memory;
 
 constexpr std::size_t DeepestKey = 512;
-constexpr std::array RootNames{"HKCR", "HKCU", "HKLM", "HKU", "HKCC"};
+
+const Words& RootNames() {
+  static const Words names{"HKCR", "HKCU", "HKLM", "HKU", "HKCC"};
+  return names;
+}
 
 struct KeyPath {
   platform::KeyHandle root = 0;
@@ -24,128 +25,86 @@ struct KeyPath {
 // "HKCU\Software" or "HKEY_CURRENT_USER\Software".
 KeyPath ParseKey(const std::string& text) {
   const std::size_t end = std::min(text.find('\\'), text.size());
-  const std::string root = text.substr(0, end);
-  KeyPath key{memory::RegistryTree::RootNamed(root), {}};
-  if (key.root == 0) {
-    const std::vector<std::string> names(RootNames.begin(), RootNames.end());
-    throw CommandError("no registry root " + Quoted(root.substr(0, 40)) + Suggestion(root, names));
+  std::string root = text.substr(0, end);
+  if (memory::RegistryTree::RootNamed(root) == 0) {
+    root = RootNames()[PickName("registry root", root, RootNames())];
   }
-  const std::vector<std::string> parts = memory::PathParts(std::string_view(text).substr(end));
+  const Words parts = memory::PathParts(std::string_view(text).substr(end));
   if (parts.size() > DeepestKey) throw CommandError("the key lies too deep");
   for (const std::string& part : parts) {
     if (part.size() > memory::MaxKeyNameLength) throw CommandError("a key's name is too long");
-    key.subkey += (key.subkey.empty() ? "" : "\\") + part;
   }
-  return key;
+  return {memory::RegistryTree::RootNamed(root), Joined(parts, "\\")};
 }
 
 KeyPath ExistingKey(Session& session, const std::string& word) {
   KeyPath key = ParseKey(word);
-  if (!session.World().registry.HasKey(key.root, key.subkey)) {
-    throw CommandError("no key " + Quoted(word.substr(0, 200)));
-  }
-  return key;
+  if (session.World().registry.HasKey(key.root, key.subkey)) return key;
+  throw CommandError("no key " + Brief(word));
 }
 
-// In the older form, which keeps every byte of the names and texts.
-std::string Exported(Session& session, const KeyPath& key) {
-  return memory::ExportReg(session.World().registry, key.root, key.subkey,
-                           memory::RegFormat::Regedit4);
-}
-
-// A text's lines, line ends left out.
-std::vector<std::string> Lines(const std::string& text) {
-  std::vector<std::string> lines = text::Split(text, '\n');
-  if (!lines.empty() && lines.back().empty()) lines.pop_back();
-  for (std::string& line : lines) {
-    if (line.ends_with('\r')) line.pop_back();
-  }
-  return lines;
-}
-
-void ShowKey(Session& session, const KeyPath& key) {
-  const std::vector<std::string> lines = Lines(Exported(session, key));
-  // Without the file's first line.
-  for (std::size_t i = 1; i < lines.size(); ++i) {
-    if (!lines[i].empty()) session.Say(Printable(lines[i]));
-  }
+std::string ExportedKey(Session& session, const std::string& word) {
+  const KeyPath key = ExistingKey(session, word);
+  return Exported(session.World().registry, key.root, key.subkey);
 }
 
 void ShowRegistry(Session& session, const Words& words) {
-  if (!words.empty()) return ShowKey(session, ExistingKey(session, words.front()));
-  for (const char* root : RootNames) ShowKey(session, ParseKey(root));
-}
-
-const std::string& OneWord(const Words& words) {
-  if (words.size() != 1) throw CommandError("the data must be one word; put it in quotes");
-  return words.front();
-}
-
-std::string TextData(const Words& words) { return OneWord(words) + '\0'; }
-
-std::string MultiData(const Words& words) {
-  std::string data;
-  for (const std::string& word : words) data += word + '\0';
-  return data + '\0';
-}
-
-std::string DwordData(const Words& words) {
-  const auto number = ParseNumber(OneWord(words), 0, 0xFFFFFFFFLL, "the number");
-  std::string bytes;
-  for (int shift = 0; shift < 32; shift += 8) {
-    bytes.push_back(static_cast<char>(number >> shift & 0xFF));
+  for (const std::string& word : words.empty() ? RootNames() : words) {
+    const std::string exported = ExportedKey(session, word);
+    for (std::string_view rest = exported; !rest.empty();) {
+      const std::string_view line = text::TakeLine(rest);
+      if (!line.empty()) session.Say(Printable(line));
+    }
   }
-  return bytes;
 }
 
-// Pairs of hexadecimal digits, in any number of words.
-std::string BinaryData(const Words& words) {
-  std::string digits;
-  for (const std::string& word : words) digits += word;
+// Pairs of hexadecimal digits.
+std::string BytesOf(const std::string& digits) {
+  if (digits.size() % 2 != 0) throw CommandError("the bytes must be pairs of hexadecimal digits");
   std::string data;
   for (std::size_t i = 0; i < digits.size(); i += 2) {
-    const std::string pair = digits.substr(i, 2);
-    if (pair.size() < 2) throw CommandError("the bytes must be pairs of hexadecimal digits");
-    data.push_back(static_cast<char>(ParseNumber("0x" + pair, 0, 255, "a byte")));
+    data.push_back(static_cast<char>(ParseNumber("0x" + digits.substr(i, 2), 0, 255, "a byte")));
   }
   return data;
 }
 
-struct TypeRow {
-  const char* name;
-  std::uint32_t type;
-  std::string (*data)(const Words&);
-};
-
-constexpr std::array Types{
-    TypeRow{"string", platform::RegSz, TextData},
-    TypeRow{"expand", platform::RegExpandSz, TextData},
-    TypeRow{"dword", platform::RegDword, DwordData},
-    TypeRow{"binary", platform::RegBinary, BinaryData},
-    TypeRow{"multi", platform::RegMultiSz, MultiData},
-};
+// Of every type but a number's.
+std::string DataOf(std::uint32_t type, const Words& words) {
+  const std::string end(1, '\0');
+  if (type == platform::RegBinary) return BytesOf(Joined(words, ""));
+  if (type == platform::RegMultiSz) return Joined(words, end) + end + end;
+  return words[0] + end;
+}
 
 void SetRegistry(Session& session, const Words& words) {
+  constexpr std::uint32_t Types[] = {platform::RegSz, platform::RegExpandSz, platform::RegDword,
+                                     platform::RegBinary, platform::RegMultiSz};
   const KeyPath key = ParseKey(words[0]);
-  if (words[1].size() > memory::MaxValueNameLength) {
-    throw CommandError("the value's name is too long");
+  const std::string& name = words[1];
+  if (name.size() > memory::MaxValueNameLength) throw CommandError("the value's name is too long");
+  const std::size_t row =
+      PickName("type", words[2], {"string", "expand", "dword", "binary", "multi"});
+  if (row < 3 && words.size() != 4) {
+    throw CommandError("the data must be one word; put it in quotes");
   }
-  const TypeRow& row = PickRow("type", words[2], Types);
-  session.World().registry.Set(key.root, key.subkey, words[1], row.type,
-                               row.data(Words(words.begin() + 3, words.end())));
+  if (Types[row] == platform::RegDword) {
+    const auto number = ParseNumber(words[3], 0, 0xFFFFFFFFLL, "the number");
+    return session.World().registry.SetDword(key.root, key.subkey, name,
+                                             static_cast<std::uint32_t>(number));
+  }
+  session.World().registry.Set(key.root, key.subkey, name, Types[row],
+                               DataOf(Types[row], Words(words.begin() + 3, words.end())));
 }
 
 void DeleteRegistry(Session& session, const Words& words) {
   memory::RegistryTree& registry = session.World().registry;
   const KeyPath key = ExistingKey(session, words[0]);
-  if (words.size() == 2) {
-    if (!registry.Get(key.root, key.subkey, words[1])) {
-      throw CommandError("no value " + Quoted(words[1].substr(0, 200)));
-    }
-    return registry.RemoveValue(key.root, key.subkey, words[1]);
+  if (words.size() == 1 && key.subkey.empty()) throw CommandError("a root cannot be deleted");
+  if (words.size() == 1) return registry.RemoveKey(key.root, key.subkey);
+  if (!registry.Get(key.root, key.subkey, words[1])) {
+    throw CommandError("no value " + Brief(words[1]));
   }
-  if (key.subkey.empty()) throw CommandError("a root cannot be deleted");
-  registry.RemoveKey(key.root, key.subkey);
+  registry.RemoveValue(key.root, key.subkey, words[1]);
 }
 
 void RefuseRegistry(Session& session, const Words& words) {
@@ -157,12 +116,8 @@ void RefuseRegistry(Session& session, const Words& words) {
 }
 
 void LoadRegistry(Session& session, const Words& words) {
-  if (memory::ImportReg(session.World().registry, ReadRealFile(words.front()))) return;
-  throw CommandError(Quoted(words.front().substr(0, 200)) + " is no registration file");
-}
-
-void SaveRegistry(Session& session, const Words& words) {
-  WriteRealFile(words[0], Exported(session, ExistingKey(session, words[1])));
+  if (memory::ImportReg(session.World().registry, ReadRealFile(words[0]))) return;
+  throw CommandError(Brief(words[0]) + " is no registration file");
 }
 
 // With backslashes; without a drive it lies in the program's folder.
@@ -173,14 +128,14 @@ std::string FullPath(std::string path) {
 
 std::string ExistingFile(Session& session, const std::string& word) {
   std::string path = FullPath(word);
-  if (!session.World().files.IsFile(path)) throw CommandError("no file " + Quoted(path));
+  if (!session.World().files.IsFile(path)) throw CommandError("no file " + Brief(path));
   return path;
 }
 
 void ListFiles(Session& session, const Words& words) {
   const memory::FileTree& files = session.World().files;
-  std::string folder = words.empty() ? "C:" : FullPath(words.front());
-  if (!files.IsFolder(folder)) throw CommandError("no folder " + Quoted(folder));
+  std::string folder = words.empty() ? "C:" : FullPath(words[0]);
+  if (!files.IsFolder(folder)) throw CommandError("no folder " + Brief(folder));
   while (folder.ends_with('\\')) folder.pop_back();
   Walk(files, folder, [&](const std::string& path) {
     if (!files.IsFile(path)) return;
@@ -191,21 +146,17 @@ void ListFiles(Session& session, const Words& words) {
 }
 
 void ShowFile(Session& session, const Words& words) {
-  const auto content = session.World().files.Read(ExistingFile(session, words.front()));
-  for (const std::string& line : Lines(*content)) session.Say("  " + Printable(line));
-}
-
-void PutLines(Session& session, const Words& words) {
-  std::string content;
-  for (std::size_t i = 1; i < words.size(); ++i) content += words[i] + "\r\n";
-  PutFile(session.World().files, FullPath(words.front()), content);
+  const std::string content = *session.World().files.Read(ExistingFile(session, words[0]));
+  for (std::string_view rest = content; !rest.empty();) {
+    session.Say("  " + Printable(text::TakeLine(rest)));
+  }
 }
 
 void DeleteFile(Session& session, const Words& words) {
-  const std::string path = FullPath(words.front());
+  const std::string path = FullPath(words[0]);
   memory::FileTree& files = session.World().files;
   // A drive stays.
-  if (path.size() < 4 || !files.Exists(path)) throw CommandError("no file " + Quoted(path));
+  if (path.size() < 4 || !files.Exists(path)) throw CommandError("no file " + Brief(path));
   files.Remove(path);
 }
 
@@ -217,36 +168,40 @@ void MarkFile(Session& session, const Words& words) {
   files.SetLocked(path, mark == 2);
 }
 
-void LoadFile(Session& session, const Words& words) {
-  PutFile(session.World().files, FullPath(words[1]), ReadRealFile(words[0]));
-}
-
-void SaveFile(Session& session, const Words& words) {
-  WriteRealFile(words[1], *session.World().files.Read(ExistingFile(session, words[0])));
-}
-
-constexpr std::array Table{
-    Command{"registry show", "[KEY]",
-            "shows a key with all below it, or the whole registry, as in a .reg file", 0, 1,
-            ShowRegistry},
-    Command{"registry set", "KEY NAME TYPE DATA ...",
-            "sets a value: string, expand, dword, binary or multi; \"\" is the default value", 4,
-            AnyNumber, SetRegistry},
-    Command{"registry delete", "KEY [NAME]", "deletes a key with all below it, or a value", 1, 2,
-            DeleteRegistry},
-    Command{"registry refuse", "KEY none | write | all",
-            "takes the user's rights to a key, or gives them back", 2, 2, RefuseRegistry},
-    Command{"registry load", "FILE", "loads a .reg file of the real disk", 1, 1, LoadRegistry},
-    Command{"registry save", "FILE KEY", "saves a key as a .reg file (REGEDIT4) on the real disk",
-            2, 2, SaveRegistry},
-    Command{"files list", "[FOLDER]", "lists the files of the in-memory disk", 0, 1, ListFiles},
-    Command{"files show", "PATH", "shows a file", 1, 1, ShowFile},
-    Command{"files put", "PATH [LINE ...]", "makes a file of these lines", 1, AnyNumber, PutLines},
-    Command{"files delete", "PATH", "deletes a file, or a folder with all in it", 1, 1, DeleteFile},
-    Command{"files mark", "PATH readonly | writable | locked | free",
-            "protects a file from the program, or frees it", 2, 2, MarkFile},
-    Command{"files load", "FILE PATH", "copies a file of the real disk in", 2, 2, LoadFile},
-    Command{"files save", "PATH FILE", "copies a file out to the real disk", 2, 2, SaveFile},
+constexpr Command Table[] = {
+    {"registry show", "[KEY]",
+     "shows a key with all below it, or the whole registry, as in a .reg file", ShowRegistry},
+    {"registry set", "KEY NAME TYPE DATA ...",
+     "sets a value: string, expand, dword, binary or multi; \"\" is the default value",
+     SetRegistry},
+    {"registry delete", "KEY [NAME]", "deletes a key with all below it, or a value",
+     DeleteRegistry},
+    {"registry refuse", "KEY none|write|all",
+     "takes the user's rights to a key, or gives them back", RefuseRegistry},
+    {"registry load", "FILE", "loads a .reg file of the real disk", LoadRegistry},
+    {"registry save", "FILE KEY", "saves a key as a .reg file (REGEDIT4) on the real disk",
+     [](Session& session, const Words& words) {
+       WriteRealFile(words[0], RegHeader + ExportedKey(session, words[1]));
+     }},
+    {"files list", "[FOLDER]", "lists the files of the in-memory disk", ListFiles},
+    {"files show", "PATH", "shows a file", ShowFile},
+    {"files put", "PATH [LINE ...]", "makes a file of these lines",
+     [](Session& session, const Words& words) {
+       std::string content;
+       for (std::size_t i = 1; i < words.size(); ++i) content += words[i] + "\r\n";
+       PutFile(session.World().files, FullPath(words[0]), content);
+     }},
+    {"files delete", "PATH", "deletes a file, or a folder with all in it", DeleteFile},
+    {"files mark", "PATH readonly|writable|locked|free",
+     "protects a file from the program, or frees it", MarkFile},
+    {"files load", "FILE PATH", "copies a file of the real disk in",
+     [](Session& session, const Words& words) {
+       PutFile(session.World().files, FullPath(words[1]), ReadRealFile(words[0]));
+     }},
+    {"files save", "PATH FILE", "copies a file out to the real disk",
+     [](Session& session, const Words& words) {
+       WriteRealFile(words[1], *session.World().files.Read(ExistingFile(session, words[0])));
+     }},
 };
 
 }  // namespace

@@ -1,40 +1,59 @@
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 #include "app/console/Commands.h"
-#include "app/console/Words.h"
 
 namespace vantrel::console {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::StrEq;
 
-TEST(FindCommand, TakesNamesOfOneWordAndOfTwo) {
-  EXPECT_THAT(FindCommand({"click", "x"}).What->Name, StrEq("click"));
-  const Call call = FindCommand({"registry", "show", "HKCU"});
-  EXPECT_THAT(call.What->Name, StrEq("registry show"));
-  EXPECT_THAT(call.Behind, ElementsAre("HKCU"));
+// What the command fails with, or else what it prints.
+std::string Outcome(const Words& words) {
+  std::istringstream in;
+  std::ostringstream out;
+  Session session(in, out, {});
+  try {
+    RunCommand(session, words);
+  } catch (const CommandError& error) {
+    return error.what();
+  }
+  return out.str();
 }
 
-TEST(FindCommand, TakesBeginningsThatFitOneOnly) {
-  EXPECT_THAT(FindCommand({"REG", "sh"}).What->Name, StrEq("registry show"));
-  EXPECT_THROW(FindCommand({"s"}), CommandError);
-  EXPECT_THROW(FindCommand({"registry", "s"}), CommandError);
+TEST(RunCommand, TakesNamesOfOneWordAndOfTwo) {
+  EXPECT_EQ(Outcome({"clock"}), "2004-03-15 12:00:00\n");
+  EXPECT_THAT(Outcome({"registry", "show", "HKLM"}), HasSubstr("[HKEY_LOCAL_MACHINE\\SOFTWARE]"));
 }
 
-TEST(FindCommand, RefusesUnknownOnesAndWrongNumbersOfWords) {
-  EXPECT_THROW(FindCommand({"jump"}), CommandError);
-  EXPECT_THROW(FindCommand({""}), CommandError);
-  EXPECT_THROW(FindCommand({"registry"}), CommandError);
-  EXPECT_THROW(FindCommand({"registry", "jump"}), CommandError);
-  EXPECT_THROW(FindCommand({"click"}), CommandError);
-  EXPECT_THROW(FindCommand({"click", "a", "b"}), CommandError);
+TEST(RunCommand, TakesBeginningsThatFitOneOnly) {
+  EXPECT_THAT(Outcome({"REG", "sh", "HKLM"}), HasSubstr("[HKEY_LOCAL_MACHINE\\SOFTWARE]"));
+  EXPECT_THAT(Outcome({"s"}), HasSubstr("more than one command is \"s\": start, sounds, "));
+  EXPECT_EQ(Outcome({"registry", "s"}),
+            "more than one registry command is \"s\": show, set or save");
+}
+
+TEST(RunCommand, RefusesUnknownOnes) {
+  EXPECT_THAT(Outcome({"jump"}), HasSubstr("no command \"jump\""));
+  EXPECT_THAT(Outcome({""}), HasSubstr("no command \"\""));
+  EXPECT_THAT(Outcome({"registry"}), HasSubstr("no registry command \"\""));
+  EXPECT_THAT(Outcome({"registry", "jump"}), HasSubstr("no registry command \"jump\""));
+}
+
+TEST(RunCommand, TakesAsManyWordsAsItsUsageHas) {
+  EXPECT_EQ(Outcome({"click"}), "it goes: click CONTROL");
+  EXPECT_EQ(Outcome({"click", "a", "b"}), "it goes: click CONTROL");
+  EXPECT_EQ(Outcome({"boxes", "a"}), "it goes: boxes");
+  EXPECT_THAT(Outcome({"clock", "a", "b", "c"}), HasSubstr("it goes: clock"));
+  EXPECT_THAT(Outcome({"registry", "set", "HKCU\\A", "n", "multi"}), HasSubstr("it goes: "));
+  EXPECT_EQ(Outcome({"registry", "set", "HKCU\\A", "n", "multi", "a", "b", "c"}), "");
+  EXPECT_EQ(Outcome({"answer"}), "");
+  EXPECT_EQ(Outcome({"answer", "yes", "no", "yes"}), "");
 }
 
 TEST(Commands, HaveNamesThatAreApart) {
   for (const Command& command : Commands()) {
-    EXPECT_LE(command.Least, command.Most) << command.Name;
     // A word is either a command or a family, so that one name never begins another with a blank.
     for (const Command& other : Commands()) {
       const std::string name = command.Name;
@@ -45,7 +64,7 @@ TEST(Commands, HaveNamesThatAreApart) {
   }
 }
 
-TEST(HelpText, TellsEveryCommand) {
+TEST(HelpText, HasEveryCommand) {
   for (const Command& command : Commands()) EXPECT_THAT(HelpText({}), HasSubstr(command.Help));
   EXPECT_THAT(HelpText({"files", "put"}), HasSubstr("makes a file of these lines"));
   EXPECT_THROW(HelpText({"jump"}), CommandError);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/console/Screen.h"
 #include "app/console/State.h"
 #include "app/console/Words.h"
 
@@ -45,7 +46,7 @@ TEST(State, KeepsClockRegistryAndFiles) {
   const auto kept = WindowsFromState(text);
 
   EXPECT_EQ(StateText(*kept), text);
-  EXPECT_EQ(ClockText(*kept), "2004-03-15 12:01:01");
+  EXPECT_EQ(TimeText(kept->clock.LocalNow()), "2004-03-15 12:01:01");
   EXPECT_EQ(kept->registry.Get(HKeyCurrentUser, "A \"b\" %", "bytes")->data, AllBytes());
   EXPECT_EQ(kept->registry.Get(HKeyLocalMachine, "", "at the root")->type, 4U);
   EXPECT_EQ(kept->files.Read("C:\\d\\bytes.bin"), world->files.Read("C:\\d\\bytes.bin"));
@@ -89,7 +90,7 @@ TEST(State, RefusesOtherFiles) {
 
 TEST(State, RefusesAPathThatIsNone) {
   std::string text = StateText(*FreshWindows());
-  text.insert(text.find("\"C:\\\\WINDOWS\"="), "\"nowhere\"=dword:00000020\r\n");
+  text.insert(text.find("\"C:\\\\WINDOWS\\\\\"="), "\"nowhere\"=hex:20\r\n");
   EXPECT_THROW(WindowsFromState(text), CommandError);
 }
 
