@@ -92,11 +92,14 @@ void WalkSubKeys(Program& program, KeyHandle root, const std::string& key, std::
   count = index;
 }
 
+// An entry without an id has no class and no name; the key above the classes may have a text.
 void AddHelperObject(Program& program, const std::string& name, std::int32_t index) {
   const std::string id = ClassIdOf(WithoutLeadingBlanks(name));
   std::string shown;
   text::ErrorTrap trap;
-  trap([&] { shown = ClassValue(program, id); });
+  trap([&] {
+    if (!id.empty()) shown = ClassValue(program, id);
+  });
   AddRow(program, {"B" + std::to_string(index), shown, "bho", TypeBho, "D1", id, ""});
 }
 

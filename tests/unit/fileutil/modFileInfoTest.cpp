@@ -5,6 +5,7 @@
 
 #include "fileutil/modFileInfo.h"
 #include "support/ComponentFixture.h"
+#include "support/PlainProductName.h"
 
 namespace vantrel::fileutil {
 namespace {
@@ -31,57 +32,18 @@ std::string Entry(const std::string& key, const std::string& value) {
 
 const std::string LandmarkBytes = "\1\0"s + Wide("StringFileInfo") + "\0\0"s;
 
-// The prescribed steps one by one, on a whole text with 1-based positions, 0 for not found.
-struct PlainSearch {
-  int fallbacks = 0;
-
-  static std::size_t InStr(std::size_t from, const std::string& text, const std::string& find) {
-    if (from < 1 || from > text.size()) return 0;
-    const std::size_t at = text.find(find, from - 1);
-    return at == std::string::npos ? 0 : at + 1;
-  }
-
-  std::string Name(const std::string& file) {
-    std::size_t start = InStr(1, file, WidenKey("StringFileInfo"));
-    std::size_t key = 0;
-    std::size_t offset = 26;
-    if (start != 0) {
-      key = InStr(start, file, WidenKey("ProductName"));
-    } else {
-      start = InStr(1, file, "StringFileInfo");
-      if (start == 0) start = 1;
-      key = InStr(start, file, "ProductName");
-      offset = 12;
-    }
-    if (key == 0) return "";
-    const std::size_t value = key + offset;
-    std::size_t end = InStr(value, file, std::string(3, '\0'));
-    if (end == 0) return "";
-    if (file.substr(value - 1, end - value).find("ProductVersion") != std::string::npos) {
-      for (std::size_t i = 1; i <= 255 && value + i <= file.size(); ++i) {
-        if (static_cast<unsigned char>(file[value + i - 1]) < 32) {
-          end = value + i - 1;
-          break;
-        }
-      }
-      ++fallbacks;
-    }
-    return ReplaceAll(file.substr(value - 1, end - value), std::string(1, '\0'), "");
-  }
-};
-
 class ProductName : public test::ComponentFixture {
  protected:
   std::string NameIn(const std::string& bytes) {
     world.files.Put(Path, bytes);
     const std::string name = GetProductName(program, Path);
-    EXPECT_EQ(name, plain_.Name(bytes));
-    EXPECT_EQ(program.ProductNameFallbacks, plain_.fallbacks);
+    EXPECT_EQ(name, plain_.Of(bytes));
+    EXPECT_EQ(program.ProductNameFallbacks, plain_.Fallbacks());
     return name;
   }
 
  private:
-  PlainSearch plain_;
+  test::plain::ProductName plain_;
 };
 
 TEST(WidenKey, TypeWordAndKeyTogetherWithoutTheLastHighByte) {
@@ -164,6 +126,29 @@ TEST_F(ProductName, AFileThatCannotBeReadHasNone) {
   world.files.SetLocked(Path, true);
   EXPECT_EQ(GetProductName(program, Path), "");
   EXPECT_EQ(program.fileNumbers.FreeFile(), 1);
+}
+
+TEST_F(ProductName, AFileThatCannotBeReadToItsEndHasNone) {
+  world.files.Put(Path, std::string(600 * 1024, 'x') + "ProductName\0x\0\0\0"s);
+  for (std::size_t read = 1; read <= 3; ++read) {
+    process.Faults().FailCall("ReadAt", read, platform::ErrorAccessDenied);
+    EXPECT_EQ(GetProductName(program, Path), "");
+    process.Faults().Clear();
+    EXPECT_EQ(process.OpenFiles(), 0U);
+  }
+  EXPECT_EQ(GetProductName(program, Path), "x");
+}
+
+TEST_F(ProductName, OfAFolderIsNone) {
+  world.files.MakeFolder("C:\\PLUGINS\\x.dll");
+  EXPECT_EQ(GetProductName(program, "C:\\PLUGINS\\x.dll"), "");
+}
+
+TEST_F(ProductName, AVersionCutAnywhereGivesThePlainSearchsName) {
+  const std::string whole =
+      "MZ"s + LandmarkBytes + Entry("ProductName", "Bar") + Entry("ProductVersion", "1") + "\0\0"s;
+  for (std::size_t length = 0; length <= whole.size(); ++length) NameIn(whole.substr(0, length));
+  EXPECT_EQ(NameIn(whole), "Bar");
 }
 
 // The sequences lie across the borders of the blocks in which the file is read.

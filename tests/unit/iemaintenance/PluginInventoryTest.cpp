@@ -34,6 +34,7 @@ TEST_F(PluginPanel, AHelperObjectsIdEndsAtItsFirstBrace) {
   Helper("{1}tail}", "no class of this name");
   Class("{1}", "First");
   Helper("no brace", "no class of this name");
+  world.registry.SetString(HKeyClassesRoot, "CLSID", "", "no class");
   Helper(" {2} ", "no class of this name");
   Class("{2}", "Second");
   EXPECT_THAT(Rows(), ElementsAre("B0|Second|bho|BHO|D1|{2}|", "B1||bho|BHO|D1||",

@@ -1,10 +1,17 @@
-// A library whose registration does not come back until a test lets it.
+// A library whose entries do not come back until a test lets them.
 #include <windows.h>
 
-extern "C" __declspec(dllexport) HRESULT __stdcall DllRegisterServer() {
+namespace {
+
+HRESULT Wait() {
   constexpr DWORD longestTest = 60000;
   HANDLE go = CreateEventA(nullptr, TRUE, FALSE, "VantrelHangingCompanion");
   WaitForSingleObject(go, longestTest);
   CloseHandle(go);
   return S_OK;
 }
+
+}  // namespace
+
+extern "C" __declspec(dllexport) HRESULT __stdcall DllRegisterServer() { return Wait(); }
+extern "C" __declspec(dllexport) HRESULT __stdcall DllUnregisterServer() { return Wait(); }

@@ -1,0 +1,80 @@
+// The product names of the system's own libraries, beside a plain transcription of the search and
+// beside what the system's version service says.
+#include <windows.h>
+
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "fileutil/modFileInfo.h"
+#include "platform/win32/Win32Platform.h"
+#include "support/PlainProductName.h"
+#include "support/ProgramFixture.h"
+
+namespace vantrel::fileutil {
+namespace {
+
+std::string SystemFolder() {
+  char folder[MAX_PATH]{};
+  GetSystemDirectoryA(folder, MAX_PATH);
+  return folder;
+}
+
+std::vector<std::string> Libraries() {
+  std::vector<std::string> paths;
+  WIN32_FIND_DATAA found{};
+  HANDLE search = FindFirstFileA((SystemFolder() + "\\*.dll").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return paths;
+  do {
+    paths.push_back(SystemFolder() + '\\' + found.cFileName);
+  } while (FindNextFileA(search, &found) != FALSE);
+  FindClose(search);
+  return paths;
+}
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// The name in the version resource, in its first language; empty without one.
+std::string ResourceName(const std::string& path) {
+  DWORD ignored = 0;
+  std::string block(GetFileVersionInfoSizeA(path.c_str(), &ignored), '\0');
+  if (block.empty() ||
+      !GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data())) {
+    return "";
+  }
+  void* found = nullptr;
+  UINT length = 0;
+  if (!VerQueryValueA(block.data(), "\\VarFileInfo\\Translation", &found, &length) || length < 4) {
+    return "";
+  }
+  const auto* language = static_cast<const WORD*>(found);
+  char key[64];
+  wsprintfA(key, "\\StringFileInfo\\%04x%04x\\ProductName", language[0], language[1]);
+  if (!VerQueryValueA(block.data(), key, &found, &length)) return "";
+  return static_cast<const char*>(found);
+}
+
+TEST(SystemLibraries, HaveTheNamesOfThePlainSearch) {
+  const auto windows = platform::win32::MakeWin32Platform();
+  platform::memory::World world;
+  forms::headless::Toolkit toolkit(world.desktop, world.clock, 1);
+  program::Program program(windows->Platform(), toolkit);
+  test::plain::ProductName plain;
+  const std::vector<std::string> libraries = Libraries();
+  std::size_t asTheResource = 0;
+  for (const std::string& path : libraries) {
+    const std::string name = GetProductName(program, path);
+    EXPECT_EQ(name, plain.Of(BytesOf(path))) << path;
+    asTheResource += name == ResourceName(path) ? 1 : 0;
+  }
+  EXPECT_EQ(program.ProductNameFallbacks, plain.Fallbacks());
+  EXPECT_GT(libraries.size(), 100U);
+  std::printf("%u of %u libraries have the name of their version resource\n",
+              static_cast<unsigned>(asTheResource), static_cast<unsigned>(libraries.size()));
+}
+
+}  // namespace
+}  // namespace vantrel::fileutil
