@@ -28,6 +28,7 @@ constexpr int PanelWidth = 462;
 constexpr int PanelHeight = 304;
 constexpr UINT TickMilliseconds = 2000;
 constexpr UINT FirstPanelMessage = WM_APP;  // WM_APP + n shows panel n alone
+constexpr UINT OpenDialogMessage = WM_APP + 50;
 constexpr const char* CountersKey = "Software\\Qorvel Softwares\\Block Log";
 
 // How many controls of each class the windows of the control panel have.
@@ -68,6 +69,8 @@ constexpr Amount ExplorerSettings[] = {{Label, 8}, {Check, 1}, {Button, 3}, {Gro
 constexpr Amount PlugIns[] = {{Label, 4}, {Button, 2}, {Group, 1}, {List, 1}, {FileList, 1}};
 constexpr Amount Graph[] = {{Label, 10}, {Button, 1}, {Group, 1}, {Edit, 5}, {Picture, 1}};
 constexpr Amount Log[] = {{Label, 6}, {Button, 1}, {Group, 1}, {List, 1}};
+
+constexpr Amount Dialog[] = {{Label, 3}, {Button, 7}, {List, 2}, {Edit, 1}};
 
 struct PanelRow {
   const Amount* amounts;
@@ -167,11 +170,28 @@ void ShowPanel(std::size_t wanted) {
   }
 }
 
+// A window over the main one with two lists, one of them with 19 rows.
+void OpenDialog(HWND main) {
+  HWND dialog = CreateWindowExA(WS_EX_CONTROLPARENT, "BareWindow", "Bare dialog",
+                                WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, 100, 100, 504,
+                                360, main, nullptr, GetModuleHandleA(nullptr), nullptr);
+  MakeControls(dialog, Dialog, std::size(Dialog), PanelColumns);
+  HWND list = nullptr;
+  while ((list = FindWindowExA(dialog, list, WC_LISTVIEWA, nullptr)) != nullptr) {
+    AddColumn(list, 0, "Buttons");
+    SetWindowPos(list, nullptr, 0, 0, 182, 216, SWP_NOMOVE | SWP_NOZORDER);
+  }
+  list = FindWindowExA(dialog, nullptr, WC_LISTVIEWA, nullptr);
+  for (int row = 0; row < 19; ++row) SetCell(list, row, 0, "Button", LVM_INSERTITEMA);
+  ShowWindow(dialog, SW_SHOW);
+}
+
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
   if (message >= FirstPanelMessage && message < FirstPanelMessage + panels.size()) {
     ShowPanel(message - FirstPanelMessage);
     return 0;
   }
+  if (message == OpenDialogMessage) OpenDialog(window);
   if (message == WM_TIMER) Tick();
   if (message == WM_DESTROY && GetParent(window) == nullptr) PostQuitMessage(0);
   return DefWindowProcA(window, message, first, second);

@@ -1,17 +1,20 @@
 // Measures Vantrel.exe beside the bare window program, in one run and in turn: start to idle, the
-// idle tick, a command from its sender's start to its panel, a panel switch. Prints medians and
-// ratios.
+// idle tick, a command from its sender's start to its panel, a panel switch, the toolbar's dialog,
+// long allow lists. Prints medians and ratios.
 #include <windows.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "startup/AllowList.h"
 #include "startup/Probe.h"
+#include "startup/Report.h"
 
 namespace vantrel::bench {
 namespace {
@@ -24,36 +27,9 @@ struct Options {
   int idleSeconds = 20;
 };
 
-constexpr const char* ProgramTitle = "Qorvel Software Vantrel";
 constexpr const char* BareTitle = "Bare window program";
+constexpr UINT OpenBareDialog = WM_APP + 50;
 constexpr double WantedSize = 1.5 * 1024 * 1024;
-
-using Times = std::vector<double>;
-
-double Median(Times times) {
-  std::sort(times.begin(), times.end());
-  const std::size_t middle = times.size() / 2;
-  return times.size() % 2 == 1 ? times[middle] : (times[middle - 1] + times[middle]) / 2;
-}
-
-double Highest(const Times& times) { return *std::max_element(times.begin(), times.end()); }
-
-void PrintHead() {
-  std::printf("%-44s %12s %12s %8s  %s\n", "", "Vantrel", "bare", "ratio", "wanted");
-}
-
-void PrintRow(const char* what, double program, double bare, const char* unit, const char* wanted) {
-  char ratio[32] = "-";
-  if (bare > 0) std::snprintf(ratio, sizeof(ratio), "%.2f", program / bare);
-  std::printf("%-44s %9.2f %-2s %9.2f %-2s %8s  %s\n", what, program, unit, bare, unit, ratio,
-              wanted);
-  std::fflush(stdout);
-}
-
-void PrintAlone(const char* what, double value, const char* unit, const char* wanted) {
-  std::printf("%-44s %9.2f %-2s %12s %8s  %s\n", what, value, unit, "", "", wanted);
-  std::fflush(stdout);
-}
 
 struct StartTimes {
   Times idle;
@@ -235,6 +211,55 @@ void MeasureSwitches(const Options& options) {
   program.Close();
 }
 
+constexpr const char* DialogTitle = "  Customize Toolbar - Vantrel";
+constexpr const char* BareDialogTitle = "Bare dialog";
+constexpr int Openings = 15;
+
+// From the request to a window whose every part is painted; closes the window again. The request
+// returns when it has been handled.
+double MeasureOpening(const std::function<void()>& request, const char* title) {
+  const double before = Now();
+  request();
+  HWND dialog = FindWindowA(nullptr, title);
+  const auto painted = [&] {
+    return IsWindowVisible(dialog) != FALSE &&
+           FindChild(dialog, [](HWND window) {
+             return GetUpdateRect(window, nullptr, FALSE) != FALSE;
+           }) == nullptr;
+  };
+  if (!WaitUntil(painted, 10000)) std::printf("%s does not show\n", title);
+  const double time = Now() - before;
+  PostMessageA(dialog, WM_CLOSE, 0, 0);
+  WaitUntil([&] { return IsWindow(dialog) == FALSE; }, 10000);
+  return time;
+}
+
+Times MeasureOpenings(const std::function<void()>& request, const char* title) {
+  MeasureOpening(request, title);
+  Times times;
+  for (int opening = 0; opening < Openings; ++opening) {
+    times.push_back(MeasureOpening(request, title));
+  }
+  return times;
+}
+
+void MeasureDialogs(const Options& options) {
+  Probe bare(options.bare, "", BareTitle);
+  bare.WaitUntilIdle();
+  const Times bareTimes =
+      MeasureOpenings([&] { SendMessageA(bare.Main(), OpenBareDialog, 0, 0); }, BareDialogTitle);
+  bare.Close();
+  Probe program(options.program, "", ProgramTitle);
+  program.WaitUntilIdle();
+  HWND button = program.Find("FrmFrameSettings.cmdtoolbar");
+  const Times programTimes =
+      MeasureOpenings([&] { SendMessageA(button, BM_CLICK, 0, 0); }, DialogTitle);
+  program.Close();
+  PrintRow("toolbar dialog, opened and painted", Median(programTimes), Median(bareTimes), "ms",
+           "<= 30 ms");
+  PrintRow("toolbar dialog, the slowest", Highest(programTimes), Highest(bareTimes), "ms", "");
+}
+
 double FileSize(const std::string& path) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
   GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
@@ -252,6 +277,8 @@ int Run(const Options& options) {
   MeasureStarts(options);
   MeasureCommands(options);
   MeasureSwitches(options);
+  MeasureDialogs(options);
+  MeasureAllowLists(options.program);
   MeasureTicks(options);
   MeasureUnderLoad(options);
   return 0;

@@ -18,12 +18,6 @@ BOOL CALLBACK Visit(HWND window, LPARAM parameter) {
   return search.found == nullptr ? TRUE : FALSE;
 }
 
-HWND FindChild(HWND parent, const std::function<bool(HWND)>& matches) {
-  Search search{matches};
-  EnumChildWindows(parent, Visit, reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
 std::string Caption(HWND window) {
   char text[128]{};
   GetWindowTextA(window, text, sizeof(text));
@@ -45,6 +39,12 @@ double Milliseconds(const FILETIME& time) {
 }
 
 }  // namespace
+
+HWND FindChild(HWND parent, const std::function<bool(HWND)>& matches) {
+  Search search{matches};
+  EnumChildWindows(parent, Visit, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
 
 double Now() {
   LARGE_INTEGER count;

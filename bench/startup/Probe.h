@@ -10,12 +10,18 @@
 
 namespace vantrel::bench {
 
+// The caption of Vantrel.exe's main window.
+inline constexpr const char* ProgramTitle = "Qorvel Software Vantrel";
+
 // Milliseconds since an arbitrary moment, with fractions.
 double Now();
 
 // Looks once a millisecond until the condition holds; false if it did not within `bound`
 // milliseconds.
 bool WaitUntil(const std::function<bool()>& condition, double bound = 30000);
+
+// The first window below the parent that matches, nullptr for none.
+HWND FindChild(HWND parent, const std::function<bool(HWND)>& matches);
 
 class Probe {
  public:

@@ -12,6 +12,11 @@ namespace vantrel::forms {
 using text::ErrorNumber;
 using text::RuntimeError;
 
+ListItem::ListItem(ListView& list, const std::string& text, const std::string& icon)
+    : list_(list), text_(text) {
+  for (const std::string& other : {icon, std::string(), std::string()}) others_.Append(other);
+}
+
 void ListItem::SetKey(const std::string& key) {
   if (key_ != key) list_.TakeKey(*this, key);
 }
@@ -28,19 +33,27 @@ void ListItem::SetChecked(bool checked) {
   list_.Changed(Aspect::Items);
 }
 
-const SubItem& ListItem::Sub(int index) const {
+std::size_t ListItem::PlaceOf(int index) const {
   if (index < 1 || index > SubItemCount()) throw RuntimeError(ErrorNumber::ElementNotFound);
-  return subItems_[static_cast<std::size_t>(index) - 1];
+  return SubItemsPlace + 2 * (static_cast<std::size_t>(index) - 1);
+}
+
+SubItem ListItem::Sub(int index) const {
+  const std::size_t place = PlaceOf(index);
+  return {std::string(others_.At(place)), std::string(others_.At(place + 1))};
 }
 
 void ListItem::SetSubText(int index, const std::string& text) {
-  if (Sub(index).Text == text) return;
-  subItems_[static_cast<std::size_t>(index) - 1].Text = text;
+  const std::size_t place = PlaceOf(index);
+  if (others_.At(place) == text) return;
+  others_.Set(place, text);
   list_.Changed(Aspect::Items);
 }
 
 void ListItem::AddSubItem(const std::string& key, const std::string& text) {
-  subItems_.push_back({text, key});
+  others_.Append(text);
+  others_.Append(key);
+  ++subItemCount_;
   list_.Changed(Aspect::Items);
 }
 
@@ -60,26 +73,23 @@ ListItem& ListView::Item(int index) const {
 }
 
 ListItem* ListView::Find(const std::string& key) const {
-  const auto row = byKey_.find(key);
-  return row == byKey_.end() ? nullptr : row->second;
+  const auto row = byKey_.find(std::string_view(key));
+  return row == byKey_.end() ? nullptr : *row;
 }
 
 void ListView::TakeKey(ListItem& item, const std::string& key) {
-  if (!key.empty() && !byKey_.emplace(key, &item).second) {
-    throw RuntimeError(ErrorNumber::KeyNotUnique);
-  }
-  byKey_.erase(item.key_);
+  if (Find(key) != nullptr) throw RuntimeError(ErrorNumber::KeyNotUnique);
+  byKey_.erase(&item);
   item.key_ = key;
+  if (!key.empty()) byKey_.insert(&item);
 }
 
 ListItem& ListView::Add(const std::string& key, const std::string& text, const std::string& icon,
                         int index) {
   const int place = index == 0 ? Count() + 1 : index;
   if (place < 1 || place > Count() + 1) throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-  std::unique_ptr<ListItem> made(new ListItem(*this));
+  std::unique_ptr<ListItem> made(new ListItem(*this, text, icon));
   ListItem& item = *made;
-  item.text_ = text;
-  item.icon_ = icon;
   rows_.reserve(rows_.size() == rows_.capacity() ? rows_.size() * 2 + 1 : rows_.capacity());
   TakeKey(item, key);
   rows_.insert(rows_.begin() + (place - 1), std::move(made));
@@ -97,7 +107,7 @@ ListItem& ListView::Add(const std::string& key, const std::string& text, const s
 void ListView::Remove(int index) {
   RequireRow(index);
   const auto row = rows_.begin() + (index - 1);
-  byKey_.erase((*row)->key_);
+  byKey_.erase(row->get());
   rows_.erase(row);
   if (index < selected_ || selected_ > Count()) --selected_;
   if (dropHighlight_ == index) {

@@ -3,14 +3,17 @@
 #ifndef VANTREL_FORMS_LISTVIEW_H_
 #define VANTREL_FORMS_LISTVIEW_H_
 
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "forms/Control.h"
 #include "forms/ImageList.h"
+#include "forms/PackedTexts.h"
 
 namespace vantrel::forms {
 
@@ -27,7 +30,7 @@ struct SubItem {
   std::string Key;
 };
 
-// One row. Setters tell the list that it changed.
+// One row, of which a list may have a hundred thousand. Setters notify the list of the change.
 class ListItem {
  public:
   const std::string& Key() const { return key_; }
@@ -35,33 +38,47 @@ class ListItem {
   void SetKey(const std::string& key);
   const std::string& Text() const { return text_; }
   void SetText(const std::string& text);
-  const std::string& Icon() const { return icon_; }
-  const std::string& Tag() const { return tag_; }
-  void SetTag(const std::string& tag) { tag_ = tag; }
-  const std::string& ToolTipText() const { return toolTipText_; }
-  void SetToolTipText(const std::string& text) { toolTipText_ = text; }
+  std::string Icon() const { return std::string(others_.At(IconPlace)); }
+  std::string Tag() const { return std::string(others_.At(TagPlace)); }
+  void SetTag(const std::string& tag) { others_.Set(TagPlace, tag); }
+  std::string ToolTipText() const { return std::string(others_.At(TipPlace)); }
+  void SetToolTipText(const std::string& text) { others_.Set(TipPlace, text); }
   bool Checked() const { return checked_; }
   void SetChecked(bool checked);
 
-  int SubItemCount() const { return static_cast<int>(subItems_.size()); }
+  int SubItemCount() const { return subItemCount_; }
   // 1-based, as the columns behind the first. Error 35601 outside.
-  const SubItem& Sub(int index) const;
+  SubItem Sub(int index) const;
   void SetSubText(int index, const std::string& text);
   void AddSubItem(const std::string& key, const std::string& text);
 
  private:
   friend class ListView;
-  explicit ListItem(ListView& list) : list_(list) {}
+  // What `others_` holds; behind it the sub-items follow, each as its text and its key.
+  enum Place : std::size_t { IconPlace, TagPlace, TipPlace, SubItemsPlace };
+
+  ListItem(ListView& list, const std::string& text, const std::string& icon);
+  // Where the sub-item's text is; error 35601 outside.
+  std::size_t PlaceOf(int index) const;
 
   ListView& list_;
   std::string key_;
   std::string text_;
-  std::string icon_;
-  std::string tag_;
-  std::string toolTipText_;
+  PackedTexts others_;
+  int subItemCount_ = 0;
   bool checked_ = false;
-  std::vector<SubItem> subItems_;
 };
+
+// The keyed rows of a list, found by their key. A row's key must not change while it is in here.
+struct KeyOfRow {
+  using is_transparent = void;
+
+  static std::string_view Key(std::string_view key) { return key; }
+  static std::string_view Key(const ListItem* row) { return row->Key(); }
+  std::size_t operator()(const auto& one) const { return std::hash<std::string_view>{}(Key(one)); }
+  bool operator()(const auto& one, const auto& other) const { return Key(one) == Key(other); }
+};
+using RowsByKey = std::unordered_set<ListItem*, KeyOfRow, KeyOfRow>;
 
 struct ListViewDesign {
   std::vector<Column> Columns;
@@ -120,7 +137,7 @@ class ListView : public Control {
 
   ListViewDesign list_;
   std::vector<std::unique_ptr<ListItem>> rows_;
-  std::unordered_map<std::string, ListItem*> byKey_;
+  RowsByKey byKey_;
   int selected_ = 0;
   int dropHighlight_ = 0;
 };

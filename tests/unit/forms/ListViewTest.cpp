@@ -144,6 +144,19 @@ TEST_F(Lists, SubItemsAreCountedFromOne) {
   EXPECT_EQ(35601, ErrorOf([&] { row.SetSubText(2, "x"); }));
 }
 
+TEST_F(Lists, ARowKeepsItsTagItsTipAndItsIconBesideItsSubItems) {
+  ListItem& row = list.Add("A", "A", "icon");
+  EXPECT_EQ("", row.Tag() + row.ToolTipText());
+  row.AddSubItem("kind", "Allowed");
+  row.AddSubItem("", "");
+  row.SetTag("tag");
+  row.SetToolTipText("tip");
+  row.SetSubText(2, "Last");
+  EXPECT_EQ("icon tag tip", row.Icon() + " " + row.Tag() + " " + row.ToolTipText());
+  EXPECT_EQ("kind Allowed", row.Sub(1).Key + " " + row.Sub(1).Text);
+  EXPECT_EQ("Last", row.Sub(2).Text);
+}
+
 TEST_F(Lists, TheUsersClickSelectsThenTells) {
   Fill();
   Notes notes;
