@@ -17,13 +17,8 @@ using namespace vantrel::console;
 
 constexpr const char* Usage =
     "usage: vantrel-console [--state FILE] [--keep-going] [--echo] [SCRIPT]\n"
-    "\n"
     "Reads commands, one a line, from SCRIPT or from standard input; 'help' lists them.\n"
-    "  --state FILE   begins with the registry, files and clock of FILE, if it exists, and\n"
-    "                 leaves them there at the end\n"
-    "  --keep-going   goes on behind a command that failed\n"
-    "  --echo         prints each command before what comes of it\n"
-    "The exit code is 0, 1 if a command failed, 2 for a wrong argument.\n";
+    "docs/console.md explains them.\n";
 
 struct Arguments {
   Options options;
@@ -68,8 +63,7 @@ int Run(const Arguments& arguments) {
 
 int main(int count, char** words) {
   Arguments arguments;
-  const bool help =
-      count == 2 && (words[1] == std::string("--help") || words[1] == std::string("-h"));
+  const bool help = count == 2 && words[1] == std::string("--help");
   if (help || !Parse(Words(words + 1, words + count), arguments)) {
     std::fputs(Usage, help ? stdout : stderr);
     return help ? 0 : 2;

@@ -55,13 +55,13 @@ void OpenTrayMenu(Session& session, const std::string& wanted) {
 }
 
 void ListIcons(Session& session) {
-  const memory::Desktop& desktop = session.World().desktop;
-  for (const memory::TrayIcon& icon : session.World().tray.Icons()) {
-    session.Say("icon " + Quoted(icon.tip) + " of " +
-                (desktop.IsWindow(icon.window) ? desktop.ControlName(icon.window)
-                                               : "a window that is gone"));
-  }
-  if (session.World().tray.Icons().empty()) session.Say("no icon");
+  const memory::World& world = session.World();
+  const Words lines = Texts(world.tray.Icons(), [&world](const memory::TrayIcon& icon) {
+    const bool alive = world.desktop.IsWindow(icon.window);
+    return "icon " + Quoted(icon.tip) + " of " +
+           (alive ? world.desktop.ControlName(icon.window) : "a window that is gone");
+  });
+  session.SayAll(lines, "", "no icon");
 }
 
 void ExitProgram(Session& session, const Words&) {
@@ -152,6 +152,10 @@ constexpr Command Table[] = {
      }},
     {"answer", "[BUTTON ...]",
      "answers for boxes to come: yes, no, ok, cancel ...; without one, forgets them", Answer},
+    {"pick", "[FOLDER]", "chooses the folder in pickers to come; without one, cancels them",
+     [](Session& session, const Words& words) {
+       session.PickedFolder = words.empty() ? std::string() : words[0];
+     }},
     {"boxes", "", "lists the message boxes so far, with their answers",
      [](Session& session, const Words&) { session.SayAll(session.BoxLines(), "", "no box"); }},
     {"processes", "", "lists the copies that run and the programs they started", ShowProcesses},

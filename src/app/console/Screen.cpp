@@ -187,15 +187,13 @@ class Writer : private forms::ControlVisitor {
   }
   void Visit(forms::StatusBar& bar) override {
     const std::string now = TimeText(toolkit_.Clock().LocalNow());
-    Say("status", Joined(Texts(bar.Panels(),
-                               [&now](const forms::StatusPanel& panel) {
-                                 if (panel.Kind == forms::StatusPanelKind::Date)
-                                   return now.substr(0, 10);
-                                 if (panel.Kind == forms::StatusPanelKind::Time)
-                                   return now.substr(11, 5);
-                                 return Printable(panel.Text);
-                               }),
-                         " | "));
+    Words panels;
+    for (const forms::StatusPanel& panel : bar.Panels()) {
+      panels.push_back(panel.Kind == forms::StatusPanelKind::Date   ? now.substr(0, 10)
+                       : panel.Kind == forms::StatusPanelKind::Time ? now.substr(11, 5)
+                                                                    : Printable(panel.Text));
+    }
+    Say("status", Joined(panels, " | "));
   }
   void Visit(forms::TextBox& box) override {
     Say("text", Quoted(box.Text()) + (box.ReadOnly() ? " read-only" : ""));
@@ -264,15 +262,6 @@ int Fit(const Toolkit& toolkit, Control& control, const std::string& word) {
   return fit == 0 ? 0 : fit * 4 + (control.Shown() ? 2 : 0) + (InFront(toolkit, control) ? 1 : 0);
 }
 
-[[noreturn]] void Refuse(const std::string& word, const std::vector<Control*>& found,
-                         const std::vector<Control*>& all) {
-  const bool qualified = word.find('.') != std::string::npos;
-  Words names = qualified ? Texts(all, &Control::QualifiedName)
-                          : Texts(all, [](const Control* control) { return NameIn(*control); });
-  for (Control* control : all) names.push_back(CaptionSeen(*control));
-  RefuseName("control", word, Texts(found, &Control::QualifiedName), names);
-}
-
 }  // namespace
 
 std::string TextOf(const Toolkit& toolkit, const forms::Form& form, Detail detail) {
@@ -330,7 +319,12 @@ Control& FindControl(const Toolkit& toolkit, const std::string& word) {
     best = std::max(best, fit);
   }
   if (found.size() == 1) return *found.front();
-  Refuse(word, found, all);
+  Words choices = Texts(all, &Control::QualifiedName);
+  for (Control* control : all) {
+    choices.push_back(NameIn(*control));
+    choices.push_back(CaptionSeen(*control));
+  }
+  RefuseName("control", word, Texts(found, &Control::QualifiedName), choices);
 }
 
 forms::Menu& FindEntry(const std::vector<forms::Menu*>& entries, const std::string& word) {

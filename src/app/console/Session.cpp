@@ -116,6 +116,11 @@ void Session::Replace(std::unique_ptr<memory::World> world) {
   if (!copies_.empty()) throw CommandError("a copy of the program runs; end it first");
   world_ = std::move(world);
   world_->trace.Start();
+  world_->pickFolder = [this](const memory::FolderPicker& picker) {
+    Say("folder picker at " + Quoted(picker.Selected) + " -> " +
+        (PickedFolder.empty() ? "Cancel" : Quoted(PickedFolder)));
+    return PickedFolder;
+  };
   seen_ = {};
 }
 

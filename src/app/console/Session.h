@@ -91,6 +91,8 @@ class Session {
   std::function<forms::Menu*(forms::Menu&)> ChooseFromPopup;
   // The numbers of buttons for message boxes to come: each goes to the first box that has it.
   std::vector<int> Answers;
+  // What folder pickers to come choose; empty for Cancel.
+  std::string PickedFolder;
   bool TracePrinted = false;
 
  private:

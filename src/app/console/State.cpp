@@ -11,6 +11,7 @@
 
 #include "app/console/Screen.h"
 #include "app/console/Words.h"
+#include "fileutil/bmdlCookies.h"
 #include "platform/memory/Process.h"
 #include "platform/memory/RegFile.h"
 #include "text/Strings.h"
@@ -42,6 +43,21 @@ constexpr const char* FreshRegistry = R"(REGEDIT4
 "1201"=dword:00000001
 )";
 
+constexpr const char* UserFolder = "C:\\Documents and Settings\\Administrator\\";
+
+struct SpecialFolder {
+  int number;
+  const char* path;  // below the user's folder
+};
+
+constexpr SpecialFolder SpecialFolders[] = {
+    {fileutil::CSIDL_RECENT, "Recent"},
+    {fileutil::CSIDL_APPDATA, "Application Data"},
+    {fileutil::CSIDL_INTERNET_CACHE, "Local Settings\\Temporary Internet Files"},
+    {fileutil::CSIDL_COOKIES, "Cookies"},
+    {fileutil::CSIDL_HISTORY, "Local Settings\\History"},
+};
+
 constexpr const char* HelpPages =
     "Allowedlist|Block Preferences|cleaning|Graph|IE Settings|Notification|Notificationsettings|"
     "settings|ViewToolbar|welcome";
@@ -61,6 +77,7 @@ constexpr const char* EndKey = "Vantrel Console\\Files\\End";
 memory::RegistryTree Kept(const memory::World& world) {
   memory::RegistryTree kept;
   Walk(world.files, "C:", [&](const std::string& path) {
+    if (IsLink(world.files, path)) return;
     const std::string name = path + (world.files.IsFolder(path) ? "\\" : "");
     const char attributes = static_cast<char>(world.files.AttributesOf(path));
     kept.Set(HKeyUsers, FilesKey, name, platform::RegBinary,
@@ -79,10 +96,21 @@ void Restore(memory::FileTree& files, const std::string& path, const std::string
   files.SetAttributes(path, static_cast<unsigned char>(kept[0]));
 }
 
+// With a shell that knows the user's folders, whether they are there or not.
+std::unique_ptr<memory::World> EmptyWindows() {
+  auto world = std::make_unique<memory::World>();
+  for (const SpecialFolder& folder : SpecialFolders) {
+    world->specialFolders[folder.number] = std::string(UserFolder) + folder.path;
+  }
+  return world;
+}
+
 }  // namespace
 
 std::unique_ptr<memory::World> FreshWindows() {
-  auto world = std::make_unique<memory::World>();
+  auto world = EmptyWindows();
+  for (const auto& [number, path] : world->specialFolders) world->files.MakeFolder(path);
+  world->files.MakeFolder(std::string(UserFolder) + "Local Settings\\Temp");
   memory::ImportReg(world->registry, FreshRegistry);
   const auto put = [&world](const std::string& path) { world->files.Put(path, "stand-in"); };
   const std::string folder = "C:\\Program Files\\Vantrel\\";
@@ -108,7 +136,7 @@ std::string StateText(const memory::World& world) {
 }
 
 std::unique_ptr<memory::World> WindowsFromState(const std::string& text) {
-  auto world = std::make_unique<memory::World>();
+  auto world = EmptyWindows();
   memory::RegistryTree& registry = world->registry;
   const bool read = memory::ImportReg(registry, text);
   const auto clock = registry.GetString(HKeyUsers, EndKey, "Clock");
@@ -140,13 +168,16 @@ void SetClock(memory::World& world, const std::string& text) {
   world.clock.SetLocalTime(time);
 }
 
+bool IsLink(const memory::FileTree& files, const std::string& path) {
+  return (files.AttributesOf(path) & platform::AttributeReparsePoint) != 0;
+}
+
 void Walk(const memory::FileTree& files, const std::string& folder,
           const std::function<void(const std::string&)>& visit) {
   for (const std::string& name : files.List(folder)) {
     const std::string path = folder + '\\' + name;
-    if ((files.AttributesOf(path) & platform::AttributeReparsePoint) != 0) continue;
     visit(path);
-    if (files.IsFolder(path)) Walk(files, path, visit);
+    if (files.IsFolder(path) && !IsLink(files, path)) Walk(files, path, visit);
   }
 }
 

@@ -1,6 +1,6 @@
 // The in-memory Windows that the console begins with and leaves behind, as registration files. A
 // kept one has its clock, folders and files in a key of its own, after the five roots. Running
-// programs, windows, links, locks and refusals are not kept.
+// programs, windows, links, locks, refusals and the Recycle Bin are not kept.
 #ifndef VANTREL_APP_CONSOLE_STATE_H_
 #define VANTREL_APP_CONSOLE_STATE_H_
 
@@ -28,7 +28,9 @@ std::string Exported(const platform::memory::RegistryTree& registry, platform::K
 // From "2004-03-15 12:00:00"; CommandError for another form, or a day that does not exist.
 void SetClock(platform::memory::World& world, const std::string& text);
 
-// Every file and folder below the folder, folders before what is in them; links are not followed.
+bool IsLink(const platform::memory::FileTree& files, const std::string& path);
+// Every file, folder and link below the folder, folders before what is in them; links are not
+// followed.
 void Walk(const platform::memory::FileTree& files, const std::string& folder,
           const std::function<void(const std::string&)>& visit);
 // Both make missing folders on the way; CommandError with the reason if that cannot be.

@@ -120,52 +120,92 @@ void LoadRegistry(Session& session, const Words& words) {
   throw CommandError(Brief(words[0]) + " is no registration file");
 }
 
-// With backslashes; without a drive it lies in the program's folder.
+// With backslashes, none at the end; without a drive it lies in the program's folder.
 std::string FullPath(std::string path) {
   std::replace(path.begin(), path.end(), '/', '\\');
+  while (path.ends_with('\\')) path.pop_back();
   return path.find(':') == std::string::npos ? "C:\\Program Files\\Vantrel\\" + path : path;
 }
 
-std::string ExistingFile(Session& session, const std::string& word) {
+// Of a file, folder or link; a drive is none.
+std::string ExistingPath(Session& session, const std::string& word) {
   std::string path = FullPath(word);
-  if (!session.World().files.IsFile(path)) throw CommandError("no file " + Brief(path));
-  return path;
+  if (path.size() > 3 && session.World().files.Exists(path)) return path;
+  throw CommandError("no file " + Brief(path));
+}
+
+std::string ContentOf(Session& session, const std::string& word) {
+  const auto content = session.World().files.Read(FullPath(word));
+  if (!content) throw CommandError("no file " + Brief(FullPath(word)));
+  return *content;
+}
+
+// What a file or folder can be marked as; each pair sets and clears.
+struct Mark {
+  const char* name;
+  std::uint32_t attribute;  // 0 for the lock
+  bool set;
+};
+
+constexpr Mark Marks[] = {
+    {"readonly", platform::AttributeReadOnly, true},
+    {"writable", platform::AttributeReadOnly, false},
+    {"hidden", platform::AttributeHidden, true},
+    {"visible", platform::AttributeHidden, false},
+    {"system", platform::AttributeSystem, true},
+    {"ordinary", platform::AttributeSystem, false},
+    {"locked", 0, true},
+    {"free", 0, false},
+};
+
+void MarkFile(Session& session, const Words& words) {
+  memory::FileTree& files = session.World().files;
+  const std::string path = ExistingPath(session, words[0]);
+  const Mark& mark = Marks[PickName("mark", words[1], Texts(Marks, &Mark::name))];
+  if (mark.attribute == 0) return files.SetLocked(path, mark.set);
+  const std::uint32_t others = files.AttributesOf(path) & ~mark.attribute;
+  files.SetAttributes(path, mark.set ? others | mark.attribute : others);
 }
 
 void ListFiles(Session& session, const Words& words) {
   const memory::FileTree& files = session.World().files;
-  std::string folder = words.empty() ? "C:" : FullPath(words[0]);
+  const std::string folder = words.empty() ? "C:" : FullPath(words[0]);
   if (!files.IsFolder(folder)) throw CommandError("no folder " + Brief(folder));
-  while (folder.ends_with('\\')) folder.pop_back();
   Walk(files, folder, [&](const std::string& path) {
-    if (!files.IsFile(path)) return;
-    session.Say(Printable(path) + "  " + std::to_string(files.Read(path)->size()) +
-                (files.IsReadOnly(path) ? " readonly" : "") +
-                (files.IsHidden(path) ? " hidden" : ""));
+    const auto content = files.Read(path);
+    std::string line = path + (content ? "  " + std::to_string(content->size()) : "\\");
+    for (const Mark& mark : Marks) {
+      const std::uint32_t attribute = files.AttributesOf(path) & mark.attribute;
+      const bool marked = mark.attribute == 0 ? files.IsLocked(path) : attribute != 0;
+      if (mark.set && marked) line += std::string(" ") + mark.name;
+    }
+    session.Say(Printable(line) + (IsLink(files, path) ? " link" : ""));
   });
 }
 
 void ShowFile(Session& session, const Words& words) {
-  const std::string content = *session.World().files.Read(ExistingFile(session, words[0]));
+  const std::string content = ContentOf(session, words[0]);
   for (std::string_view rest = content; !rest.empty();) {
     session.Say("  " + Printable(text::TakeLine(rest)));
   }
 }
 
-void DeleteFile(Session& session, const Words& words) {
-  const std::string path = FullPath(words[0]);
+void MakeLink(Session& session, const Words& words) {
   memory::FileTree& files = session.World().files;
-  // A drive stays.
-  if (path.size() < 4 || !files.Exists(path)) throw CommandError("no file " + Brief(path));
-  files.Remove(path);
+  const std::string path = FullPath(words[0]);
+  const std::string target = ExistingPath(session, words[1]);
+  MakeFolder(files, path.substr(0, path.rfind('\\')));
+  if (files.Exists(path)) throw CommandError("there is something at " + Brief(path));
+  files.MakeLink(path, target);
 }
 
-void MarkFile(Session& session, const Words& words) {
-  memory::FileTree& files = session.World().files;
-  const std::string path = ExistingFile(session, words[0]);
-  const std::size_t mark = PickName("mark", words[1], {"readonly", "writable", "locked", "free"});
-  if (mark < 2) return files.SetReadOnly(path, mark == 0);
-  files.SetLocked(path, mark == 2);
+void Recycle(Session& session, const Words& words) {
+  memory::World& world = session.World();
+  if (words.empty()) return session.SayAll(world.recycleBin, "", "nothing");
+  for (const std::string& word : words) {
+    world.recycleBin.push_back(ExistingPath(session, word));
+    world.files.Remove(world.recycleBin.back());
+  }
 }
 
 constexpr Command Table[] = {
@@ -178,12 +218,18 @@ constexpr Command Table[] = {
      DeleteRegistry},
     {"registry refuse", "KEY none|write|all",
      "takes the user's rights to a key, or gives them back", RefuseRegistry},
+    {"registry family", "nt|9x",
+     "reads a key that was opened with an empty mask as that family of systems does",
+     [](Session& session, const Words& words) {
+       session.World().registry.readsWithoutAccess =
+           PickName("family", words[0], {"nt", "9x"}) == 1;
+     }},
     {"registry load", "FILE", "loads a .reg file of the real disk", LoadRegistry},
     {"registry save", "FILE KEY", "saves a key as a .reg file (REGEDIT4) on the real disk",
      [](Session& session, const Words& words) {
        WriteRealFile(words[0], RegHeader + ExportedKey(session, words[1]));
      }},
-    {"files list", "[FOLDER]", "lists the files of the in-memory disk", ListFiles},
+    {"files list", "[FOLDER]", "lists the folders and files of the in-memory disk", ListFiles},
     {"files show", "PATH", "shows a file", ShowFile},
     {"files put", "PATH [LINE ...]", "makes a file of these lines",
      [](Session& session, const Words& words) {
@@ -191,17 +237,27 @@ constexpr Command Table[] = {
        for (std::size_t i = 1; i < words.size(); ++i) content += words[i] + "\r\n";
        PutFile(session.World().files, FullPath(words[0]), content);
      }},
-    {"files delete", "PATH", "deletes a file, or a folder with all in it", DeleteFile},
-    {"files mark", "PATH readonly|writable|locked|free",
-     "protects a file from the program, or frees it", MarkFile},
+    {"files folder", "PATH", "makes a folder",
+     [](Session& session, const Words& words) {
+       MakeFolder(session.World().files, FullPath(words[0]));
+     }},
+    {"files link", "PATH TARGET", "makes a link, like a junction, to a file or folder", MakeLink},
+    {"files delete", "PATH", "deletes a file, or a folder with all in it",
+     [](Session& session, const Words& words) {
+       session.World().files.Remove(ExistingPath(session, words[0]));
+     }},
+    {"files mark", "PATH readonly|writable|hidden|visible|system|ordinary|locked|free",
+     "sets or clears an attribute, or the lock that another program holds", MarkFile},
     {"files load", "FILE PATH", "copies a file of the real disk in",
      [](Session& session, const Words& words) {
        PutFile(session.World().files, FullPath(words[1]), ReadRealFile(words[0]));
      }},
     {"files save", "PATH FILE", "copies a file out to the real disk",
      [](Session& session, const Words& words) {
-       WriteRealFile(words[1], *session.World().files.Read(ExistingFile(session, words[0])));
+       WriteRealFile(words[1], ContentOf(session, words[0]));
      }},
+    {"bin", "[PATH ...]", "moves files and folders into the Recycle Bin, or lists what lies there",
+     Recycle},
 };
 
 }  // namespace

@@ -198,6 +198,11 @@ void FileTree::SetAttributes(const std::string& path, std::uint32_t attributes) 
 
 void FileTree::SetLocked(const std::string& path, bool locked) { Existing(path).locked = locked; }
 
+bool FileTree::IsLocked(const std::string& path) const {
+  const auto node = Find(path);
+  return node && node->locked;
+}
+
 bool FileTree::Exists(const std::string& path) const { return Find(path) != nullptr; }
 
 std::optional<std::string> FileTree::Read(const std::string& path) const {

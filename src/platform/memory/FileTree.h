@@ -50,6 +50,7 @@ class FileTree {
   std::optional<std::string> Read(const std::string& path) const;
   bool IsFile(const std::string& path) const;
   bool IsFolder(const std::string& path) const;
+  bool IsLocked(const std::string& path) const;
   // As a listing shows them, AttributeDirectory, AttributeReparsePoint and AttributeArchive among
   // them; 0 for nothing.
   std::uint32_t AttributesOf(const std::string& path) const;

@@ -115,12 +115,14 @@ TEST(Console, LetsCallsFail) {
 }
 
 TEST(Console, NamesTheChoicesWhereNoneIsNear) {
-  EXPECT_EQ(
-      Output("registry\n"),
-      "error: no registry command \"\"; there are show, set, delete, refuse, load and save\n");
+  EXPECT_EQ(Output("registry\n"),
+            "error: no registry command \"\"; there are show, set, delete, refuse, family, load "
+            "and save\n");
   EXPECT_EQ(Output("state\n"), "error: no state command \"\"; there are load and save\n");
-  EXPECT_EQ(Output("files put a\nfiles mark a zzzz\n"),
-            "error: no mark \"zzzz\"; there are readonly, writable, locked and free\n");
+  EXPECT_EQ(
+      Output("files put a\nfiles mark a zzzz\n"),
+      "error: no mark \"zzzz\"; there are readonly, writable, hidden, visible, system, ordinary, "
+      "locked and free\n");
 }
 
 TEST(Console, SetsAndShowsValuesOfEachType) {
@@ -167,6 +169,57 @@ TEST(Console, ShowsAndChangesFiles) {
               HasSubstr("it is read-only"));
   EXPECT_THAT(Output("files delete C:\\\n"), HasSubstr("error: no file"));
   EXPECT_THAT(Output("files delete C:\\WINDOWS\nfiles list C:\\WINDOWS\n"), HasSubstr("no folder"));
+}
+
+TEST(Console, ListsFoldersFilesAndTheirMarks) {
+  EXPECT_EQ(
+      Output("files folder C:\\d\\empty\nfiles put C:\\d\\f x\nfiles link C:\\d\\l C:\\WINDOWS\n"
+             "files mark C:\\d\\f readonly\nfiles mark C:\\d\\f system\n"
+             "files mark C:\\d\\f locked\nfiles mark C:\\d\\empty hidden\nfiles list C:/d/\n"
+             "files mark C:\\d\\f writable\nfiles mark C:\\d\\f ordinary\n"
+             "files mark C:\\d\\f free\nfiles mark C:\\d\\empty visible\nfiles list C:\\d\n"),
+      "C:\\d\\empty\\ hidden\nC:\\d\\f  3 readonly system locked\nC:\\d\\l\\ link\n"
+      "C:\\d\\empty\\\nC:\\d\\f  3\nC:\\d\\l\\ link\n");
+}
+
+TEST(Console, RefusesFoldersAndLinksThatCannotBe) {
+  EXPECT_THAT(Output("files put C:\\a x\nfiles folder C:\\a\n"),
+              HasSubstr("cannot make \"C:\\a\""));
+  EXPECT_THAT(Output("files put C:\\a x\nfiles folder C:\\a\\b\n"), HasSubstr("cannot make"));
+  EXPECT_THAT(Output("files folder D:\\a\n"), HasSubstr("cannot make"));
+  EXPECT_THAT(Output("files put C:\\a x\nfiles link C:\\a\\b C:\\WINDOWS\n"),
+              HasSubstr("cannot make"));
+  EXPECT_THAT(Output("files link C:\\WINDOWS C:\\WINDOWS\n"), HasSubstr("there is something at"));
+  EXPECT_THAT(Output("files link C:\\l C:\\None\nfiles link C: C:\\WINDOWS\n"),
+              HasSubstr("no file"));
+  EXPECT_THAT(Output("files link C:a C:\\WINDOWS\n"), HasSubstr("error: "));
+}
+
+TEST(Console, MovesFilesIntoTheRecycleBin) {
+  EXPECT_EQ(
+      Output(
+          "bin\nfiles put C:\\a x\nfiles put C:\\b\\c x\nbin C:\\a C:\\b\nbin\nfiles show C:\\a\n"),
+      "nothing\nC:\\a\nC:\\b\nerror: no file \"C:\\a\"\n");
+  EXPECT_THAT(Output("bin C:\\\n"), HasSubstr("error: no file"));
+}
+
+TEST(Console, KnowsTheFamilyOfSystems) {
+  std::istringstream in("registry family 9x\n");
+  std::ostringstream out;
+  Session session(in, out, {});
+  EXPECT_TRUE(session.Run());
+  EXPECT_TRUE(session.World().registry.readsWithoutAccess);
+}
+
+TEST(Console, ChoosesInFolderPickers) {
+  std::istringstream in("pick C:\\d\n");
+  std::ostringstream out;
+  Session session(in, out, {});
+  EXPECT_EQ(session.World().pickFolder({}), "");
+  EXPECT_TRUE(session.Run());
+  EXPECT_EQ(session.World().pickFolder({{}, "C:\\a"}), "C:\\d");
+  EXPECT_EQ(out.str(),
+            "folder picker at \"\" -> Cancel\nfolder picker at \"C:\\a\" -> \"C:\\d\"\n");
 }
 
 TEST(Console, SavesAndLoadsRegistrationFiles) {

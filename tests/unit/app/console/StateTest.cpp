@@ -30,6 +30,15 @@ TEST(FreshWindows, HasTheStartEntryOfAllUsersAndAnEmptyToolbarKey) {
             2U);
 }
 
+TEST(FreshWindows, HasTheFoldersOfTheUserThatAShellKnows) {
+  const auto world = FreshWindows();
+  ASSERT_EQ(world->specialFolders.size(), 5U);
+  for (const auto& [number, path] : world->specialFolders) {
+    EXPECT_TRUE(world->files.IsFolder(path)) << path;
+  }
+  EXPECT_EQ(WindowsFromState(StateText(*world))->specialFolders, world->specialFolders);
+}
+
 TEST(State, KeepsClockRegistryAndFiles) {
   const auto world = FreshWindows();
   world->clock.Advance(61000);
