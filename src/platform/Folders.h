@@ -46,8 +46,8 @@ class Folders {
   // or a read-only file, 32 if somebody has it open without leave to delete it.
   virtual std::int32_t DeleteFileA(const std::string& path) = 0;
 
-  // Removes an empty folder, or a link to a folder and nothing of what it points to. 2 or 3 if
-  // there is none, 5 if it is read-only, 145 if it is not empty, 267 for a file.
+  // Removes an empty folder, or a link to one and nothing of what it points to. 2 or 3 if there is
+  // none, 5 if it is read-only or a link that cannot go alone, 145 if not empty, 267 for a file.
   virtual std::int32_t RemoveDirectoryA(const std::string& path) = 0;
 
   // Replaces the attributes that a program may set: read-only, hidden, system, archive. 2 or 3 if

@@ -28,6 +28,20 @@ DirectoryEntry EntryOf(const WIN32_FIND_DATAA& found) {
 
 std::int32_t CodeOf(BOOL done) { return done ? ErrorSuccess : LastError(); }
 
+bool IsLink(DWORD attributes) {
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+// Wine opens what a link leads to, and a removal would be that of the folder there.
+bool OpensLinkItself(const std::string& path) {
+  const FileHandle link(CreateFileA(
+      path.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+      nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  BY_HANDLE_FILE_INFORMATION opened{};
+  return link.Valid() && GetFileInformationByHandle(link.Get(), &opened) &&
+         IsLink(opened.dwFileAttributes);
+}
+
 class FoldersAdapter : public Folders {
  public:
   bool FolderExists(const std::string& path) override {
@@ -52,6 +66,9 @@ class FoldersAdapter : public Folders {
   }
 
   std::int32_t RemoveDirectoryA(const std::string& path) override {
+    if (IsLink(GetFileAttributesA(path.c_str())) && !OpensLinkItself(path)) {
+      return ErrorAccessDenied;
+    }
     return CodeOf(::RemoveDirectoryA(path.c_str()));
   }
 

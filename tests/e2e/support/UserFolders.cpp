@@ -107,14 +107,13 @@ void PutFile(const std::string& path, const std::string& content) {
 
 void RemoveFolder(const std::string& folder) {
   Visit(folder, [&](const WIN32_FIND_DATAA& found) {
+    if (Is(found, FILE_ATTRIBUTE_REPARSE_POINT)) return;
     const std::string path = folder + '\\' + found.cFileName;
     SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (!Is(found, FILE_ATTRIBUTE_DIRECTORY)) {
-      DeleteFileA(path.c_str());
-    } else if (Is(found, FILE_ATTRIBUTE_REPARSE_POINT)) {
-      RemoveDirectoryA(path.c_str());
-    } else {
+    if (Is(found, FILE_ATTRIBUTE_DIRECTORY)) {
       RemoveFolder(path);
+    } else {
+      DeleteFileA(path.c_str());
     }
   });
   RemoveDirectoryA(folder.c_str());

@@ -42,7 +42,8 @@ class UserFolders {
 
 // Makes a file with its folders.
 void PutFile(const std::string& path, const std::string& content = "x");
-// With all that is in it, whatever its attributes; nothing if there is none.
+// With all that is in it, whatever its attributes, but links and with them the folders around them;
+// nothing if there is none.
 void RemoveFolder(const std::string& folder);
 bool Exists(const std::string& path);
 // The names directly in a folder, sorted; neither "." nor "..".

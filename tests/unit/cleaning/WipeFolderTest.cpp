@@ -1,9 +1,8 @@
-// What wiping removes and what it leaves, with a plain model of it over random trees.
-#include <map>
+// What wiping removes and what it leaves.
 #include <random>
-#include <set>
 
 #include "cleaning/Scramble.h"
+#include "support/WipedTrees.h"
 #include "unit/cleaning/CleanPanel.h"
 
 namespace vantrel::cleaning {
@@ -106,133 +105,38 @@ TEST_F(WipedFolder, LinksAreRemovedThemselves) {
   EXPECT_EQ(world.files.Read("C:\\outside\\f"), "kept");
 }
 
-// A tree as the model has it: what each path is.
-struct Node {
-  bool folder = false;
-  bool link = false;
-  bool locked = false;
-  std::uint32_t attributes = 0;
-};
-using Nodes = std::map<std::string, Node>;
-
-// What wiping leaves of a tree, told plainly.
-class Model {
- public:
-  explicit Model(Nodes tree) : tree_(std::move(tree)) {}
-
-  Nodes Wiped(const std::string& top) {
-    for (const std::string& path : ChildrenOf(top)) {
-      const Node node = tree_[path];
-      if (!node.folder && !node.locked) tree_.erase(path);
-    }
-    for (const std::string& path : ChildrenOf(top)) {
-      if (tree_[path].folder) Kill(path);
-    }
-    return tree_;
-  }
-
- private:
-  std::vector<std::string> ChildrenOf(const std::string& folder) {
-    std::vector<std::string> children;
-    for (const auto& [path, node] : tree_) {
-      if (path.size() > folder.size() + 1 && path.starts_with(folder + "\\") &&
-          path.find('\\', folder.size() + 1) == std::string::npos) {
-        children.push_back(path);
-      }
-    }
-    return children;
-  }
-
-  void Kill(const std::string& path) {
-    if (tree_[path].link) {
-      tree_.erase(path);
-      return;
-    }
-    for (const std::string& child : ChildrenOf(path)) {
-      if (tree_[child].folder) Kill(child);
-    }
-    for (const std::string& child : ChildrenOf(path)) {
-      const Node node = tree_[child];
-      const bool ordinary = (node.attributes & 7) == 0;
-      if (!node.folder && ordinary && !node.locked) tree_.erase(child);
-    }
-    if (ChildrenOf(path).empty()) tree_.erase(path);
-  }
-
-  Nodes tree_;
-};
-
-class RandomTree {
- public:
-  RandomTree(platform::memory::FileTree& files, std::mt19937& random)
-      : files_(files), random_(random) {}
-
-  Nodes Plant() {
-    files_.MakeFolder(Top);
-    Fill(Top, 3);
-    return std::move(tree_);
-  }
-
- private:
-  void Fill(const std::string& folder, int depth) {
-    for (unsigned child = random_() % 5; child > 0; --child) {
-      const std::string path = folder + "\\n" + std::to_string(child);
-      switch (random_() % 4) {
-        case 0:
-          if (depth > 0) MakeFolder(path, depth);
-          break;
-        case 1:
-          MakeLink(folder, path);
-          break;
-        default:
-          MakeFile(path);
-      }
+void Plant(platform::memory::FileTree& files, const test::Tree& tree) {
+  files.MakeFolder(Top);
+  for (const auto& [path, node] : tree) {
+    if (!node.target.empty()) {
+      files.MakeLink(path, node.target);
+    } else if (node.folder) {
+      files.MakeFolder(path);
+    } else {
+      files.Put(path, node.content);
+      files.SetAttributes(path, node.attributes);
+      files.SetLocked(path, node.locked);
     }
   }
-
-  void MakeFolder(const std::string& path, int depth) {
-    files_.MakeFolder(path);
-    tree_[path] = {true, false, false, 0};
-    Fill(path, depth - 1);
-  }
-
-  void MakeLink(const std::string& folder, const std::string& path) {
-    const std::string targets[] = {"C:\\outside", "C:\\outside\\f", folder, Top};
-    const std::string& target = targets[random_() % std::size(targets)];
-    files_.MakeLink(path, target);
-    tree_[path] = {target != "C:\\outside\\f", true, false, 0};
-  }
-
-  void MakeFile(const std::string& path) {
-    const std::uint32_t attributes[] = {
-        0, 0, 0, platform::AttributeReadOnly, platform::AttributeHidden, platform::AttributeSystem};
-    Node node;
-    node.attributes = attributes[random_() % std::size(attributes)];
-    node.locked = random_() % 8 == 0;
-    files_.Put(path, std::string(random_() % 5, 'x'));
-    files_.SetAttributes(path, node.attributes);
-    files_.SetLocked(path, node.locked);
-    tree_[path] = node;
-  }
-
-  platform::memory::FileTree& files_;
-  std::mt19937& random_;
-  Nodes tree_;
-};
+}
 
 TEST_F(WipedFolder, RandomTreesLeaveWhatTheModelLeavesAndNothingOutsideChanges) {
   std::mt19937 random(11);
   Put("C:\\outside\\f", "kept");
   Put("C:\\outside\\sub\\g", "kept too");
+  world.files.MakeFolder("C:\\empty");
   for (int round = 0; round < 10000; ++round) {
-    const Nodes before = RandomTree(world.files, random).Plant();
+    const test::Tree before =
+        test::RandomTree({Top, "C:\\outside", "C:\\empty", "C:\\outside\\f"}, random).Make();
+    Plant(world.files, before);
     WipeFolder(program, Top);
-    const Nodes left = Model(before).Wiped(Top);
+    const test::Tree left = test::WipeModel(before).Wiped(Top);
     for (const auto& [path, node] : before) {
       ASSERT_EQ(world.files.Exists(path), left.contains(path)) << "round " << round << ' ' << path;
     }
     ASSERT_EQ(world.files.Read("C:\\outside\\f"), "kept") << round;
     ASSERT_EQ(world.files.Read("C:\\outside\\sub\\g"), "kept too") << round;
+    ASSERT_TRUE(Exists("C:\\empty")) << round;
     world.files.Remove(Top);
   }
 }
