@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "shell/Navigation.h"
-#include "unit/shell/Machine.h"
+#include "unit/shell/FaultSweep.h"
 #include "windows/FrmFrameAllowList.h"
 #include "windows/FrmFrameHistory.h"
 #include "windows/FrmFrameMain.h"
@@ -20,17 +20,10 @@ namespace {
 
 using test::BlockLog;
 using test::Machine;
+using test::Sweep;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-std::vector<std::int32_t> ErrorsOf(const std::string& call) {
-  std::vector<std::int32_t> errors = {platform::ErrorAccessDenied};
-  const bool looksAtCode =
-      call.starts_with("RegQueryValueExA ") || call.starts_with("RegOpenKeyExA ");
-  if (looksAtCode) errors.push_back(platform::ErrorFileNotFound);
-  return errors;
-}
 
 constexpr const char* GateBox =
     "Vantrel does not support Internet Explorer version lesser than 6.0. Please install a higher "
@@ -54,29 +47,6 @@ void ExpectSilence(const Machine& machine) {
                 ElementsAre("Some error occured: Permission denied"));
   } else {
     EXPECT_THAT(machine.BoxTexts(*machine.copy), IsEmpty());
-  }
-}
-
-// Runs the act once for each of its calls, failing with access denied, and once more as a missing
-// value or key where somebody looks at the code. `prepare` brings a machine to the moment before;
-// the act makes more than `atLeast` calls.
-template <class Prepare, class Act, class Expect>
-void Sweep(Prepare prepare, Act act, Expect expect, std::size_t atLeast = 50) {
-  Machine clean;
-  prepare(clean);
-  const std::vector<std::string> calls = clean.CallsOf([&] { act(clean); });
-  EXPECT_GT(calls.size(), atLeast);
-  for (std::size_t n = 1; n <= calls.size(); ++n) {
-    for (const std::int32_t error : ErrorsOf(calls[n - 1])) {
-      SCOPED_TRACE("call " + std::to_string(n) + ", error " + std::to_string(error) + ": " +
-                   calls[n - 1]);
-      Machine machine;
-      prepare(machine);
-      machine.Fail(n, error, [&] { act(machine); });
-      machine.ExpectKeysClosed();
-      expect(machine);
-      if (testing::Test::HasFailure()) return;
-    }
   }
 }
 
