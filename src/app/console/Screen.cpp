@@ -264,14 +264,14 @@ int Fit(const Toolkit& toolkit, Control& control, const std::string& word) {
 
 }  // namespace
 
-std::string TextOf(const Toolkit& toolkit, const forms::Form& form, Detail detail) {
+std::string WindowText(const Toolkit& toolkit, const forms::Form& form, Detail detail) {
   Writer writer(toolkit, detail);
   writer.Window(form, 0);
   return writer.text;
 }
 
-std::string TextOf(const Toolkit& toolkit, forms::Control& control, Detail detail) {
-  Writer writer(toolkit, detail);
+std::string ControlText(const Toolkit& toolkit, forms::Control& control) {
+  Writer writer(toolkit, Detail::Everything);
   writer.Control(control, 0);
   return writer.text;
 }

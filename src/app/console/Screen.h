@@ -15,10 +15,12 @@ namespace vantrel::console {
 
 // What the user sees; or every control, with what is hidden marked so, pictures and timers too.
 enum class Detail { Seen, Everything };
-// A window with its menus and controls, and the front one of the panels in it; or a control with
-// what lies in it. A line a control, with its kind, name, text and state.
-std::string TextOf(const forms::headless::Toolkit& toolkit, const forms::Form& form, Detail detail);
-std::string TextOf(const forms::headless::Toolkit& toolkit, forms::Control& control, Detail detail);
+// A window with its menus and controls, and the front one of the panels in it. A line a control,
+// with its kind, name, text and state.
+std::string WindowText(const forms::headless::Toolkit& toolkit, const forms::Form& form,
+                       Detail detail);
+// A control with everything in it.
+std::string ControlText(const forms::headless::Toolkit& toolkit, forms::Control& control);
 // Which windows show, each with its front panel; and which is open modally. Without a line feed.
 std::string ScreenLine(const forms::headless::Toolkit& toolkit);
 // "2004-03-15 12:00:00".

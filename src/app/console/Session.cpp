@@ -15,17 +15,6 @@ namespace vantrel::console {
 
 namespace memory = platform::memory;
 
-namespace {
-
-// The numbers of the buttons that a message box of the style has, in their order.
-const std::vector<int>& ButtonsOf(std::uint32_t style) {
-  static const std::array<std::vector<int>, 6> byKind{
-      {{1}, {1, 2}, {3, 4, 5}, {6, 7, 2}, {6, 7}, {4, 2}}};
-  return byKind[(style & 15U) < byKind.size() ? style & 15U : 0];
-}
-
-}  // namespace
-
 Session::Session(std::istream& in, std::ostream& out, Options options)
     : in_(in), out_(out), options_(options) {
   Replace(FreshWindows());
@@ -140,7 +129,11 @@ void Session::Start(const std::string& commandLine) {
 }
 
 int Session::AnswerBox(const memory::Box& box) {
-  const std::vector<int>& buttons = ButtonsOf(box.style);
+  // The numbers of the buttons in their order, by the kind that is in the style's low bits.
+  static const std::array<std::vector<int>, 6> byKind{
+      {{1}, {1, 2}, {3, 4, 5}, {6, 7, 2}, {6, 7}, {4, 2}}};
+  const std::size_t kind = box.style & 15U;
+  const std::vector<int>& buttons = byKind[kind < byKind.size() ? kind : 0];
   const std::size_t byDefault = (box.style >> 8U) & 3U;
   int answer = buttons[std::min(byDefault, buttons.size() - 1)];
   const auto given =

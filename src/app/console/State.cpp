@@ -45,19 +45,6 @@ constexpr const char* FreshRegistry = R"(REGEDIT4
 
 constexpr const char* UserFolder = "C:\\Documents and Settings\\Administrator\\";
 
-struct SpecialFolder {
-  int number;
-  const char* path;  // below the user's folder
-};
-
-constexpr SpecialFolder SpecialFolders[] = {
-    {fileutil::CSIDL_RECENT, "Recent"},
-    {fileutil::CSIDL_APPDATA, "Application Data"},
-    {fileutil::CSIDL_INTERNET_CACHE, "Local Settings\\Temporary Internet Files"},
-    {fileutil::CSIDL_COOKIES, "Cookies"},
-    {fileutil::CSIDL_HISTORY, "Local Settings\\History"},
-};
-
 constexpr const char* HelpPages =
     "Allowedlist|Block Preferences|cleaning|Graph|IE Settings|Notification|Notificationsettings|"
     "settings|ViewToolbar|welcome";
@@ -98,10 +85,15 @@ void Restore(memory::FileTree& files, const std::string& path, const std::string
 
 // With a shell that knows the user's folders, whether they are there or not.
 std::unique_ptr<memory::World> EmptyWindows() {
+  const std::string user = UserFolder;
   auto world = std::make_unique<memory::World>();
-  for (const SpecialFolder& folder : SpecialFolders) {
-    world->specialFolders[folder.number] = std::string(UserFolder) + folder.path;
-  }
+  world->specialFolders = {
+      {fileutil::CSIDL_RECENT, user + "Recent"},
+      {fileutil::CSIDL_APPDATA, user + "Application Data"},
+      {fileutil::CSIDL_INTERNET_CACHE, user + "Local Settings\\Temporary Internet Files"},
+      {fileutil::CSIDL_COOKIES, user + "Cookies"},
+      {fileutil::CSIDL_HISTORY, user + "Local Settings\\History"},
+  };
   return world;
 }
 

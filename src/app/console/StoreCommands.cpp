@@ -68,32 +68,24 @@ std::string BytesOf(const std::string& digits) {
   return data;
 }
 
-// Of every type but a number's.
-std::string DataOf(std::uint32_t type, const Words& words) {
-  const std::string end(1, '\0');
-  if (type == platform::RegBinary) return BytesOf(Joined(words, ""));
-  if (type == platform::RegMultiSz) return Joined(words, end) + end + end;
-  return words[0] + end;
-}
-
 void SetRegistry(Session& session, const Words& words) {
-  constexpr std::uint32_t Types[] = {platform::RegSz, platform::RegExpandSz, platform::RegDword,
-                                     platform::RegBinary, platform::RegMultiSz};
   const KeyPath key = ParseKey(words[0]);
   const std::string& name = words[1];
   if (name.size() > memory::MaxValueNameLength) throw CommandError("the value's name is too long");
-  const std::size_t row =
-      PickName("type", words[2], {"string", "expand", "dword", "binary", "multi"});
-  if (row < 3 && words.size() != 4) {
-    throw CommandError("the data must be one word; put it in quotes");
-  }
-  if (Types[row] == platform::RegDword) {
-    const auto number = ParseNumber(words[3], 0, 0xFFFFFFFFLL, "the number");
-    return session.World().registry.SetDword(key.root, key.subkey, name,
-                                             static_cast<std::uint32_t>(number));
-  }
-  session.World().registry.Set(key.root, key.subkey, name, Types[row],
-                               DataOf(Types[row], Words(words.begin() + 3, words.end())));
+  const Words data(words.begin() + 3, words.end());
+  memory::RegistryTree& registry = session.World().registry;
+  const auto set = [&](std::uint32_t type, const std::string& bytes) {
+    registry.Set(key.root, key.subkey, name, type, bytes);
+  };
+  const std::string end(1, '\0');
+  const std::size_t type =
+      PickName("type", words[2], {"binary", "multi", "string", "expand", "dword"});
+  if (type == 0) return set(platform::RegBinary, BytesOf(Joined(data, "")));
+  if (type == 1) return set(platform::RegMultiSz, Joined(data, end) + end + end);
+  if (data.size() != 1) throw CommandError("the data must be one word; put it in quotes");
+  if (type < 4) return set(type == 2 ? platform::RegSz : platform::RegExpandSz, data[0] + end);
+  const auto number = ParseNumber(data[0], 0, 0xFFFFFFFFLL, "the number");
+  registry.SetDword(key.root, key.subkey, name, static_cast<std::uint32_t>(number));
 }
 
 void DeleteRegistry(Session& session, const Words& words) {

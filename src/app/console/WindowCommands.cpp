@@ -91,18 +91,16 @@ forms::Form& SizableAt(Session& session, const Words& words, std::size_t place) 
 void Show(Session& session, const Words& words) {
   const Toolkit& toolkit = session.Current().Toolkit;
   const bool all = !words.empty() && text::EqualIgnoringCase(words[0], "all");
-  if (words.empty() || all) {
-    const Detail detail = all ? Detail::Everything : Detail::Seen;
-    const auto windows = all ? toolkit.LoadedForms() : WindowsOnScreen(toolkit);
-    for (const forms::Form* form : windows) session.Write(TextOf(toolkit, *form, detail));
-    if (windows.empty()) session.Say("no window shows");
-    return;
-  }
-  for (const forms::Form* form : toolkit.LoadedForms()) {
-    const bool named = text::EqualIgnoringCase(form->Name(), words[0]);
-    if (named) return session.Write(TextOf(toolkit, *form, Detail::Seen));
-  }
-  session.Write(TextOf(toolkit, Named(session, words[0]), Detail::Everything));
+  const bool named = !words.empty() && !all;
+  std::vector<forms::Form*> windows =
+      words.empty() ? WindowsOnScreen(toolkit) : toolkit.LoadedForms();
+  std::erase_if(windows, [&](const forms::Form* form) {
+    return named && !text::EqualIgnoringCase(form->Name(), words[0]);
+  });
+  const Detail detail = all ? Detail::Everything : Detail::Seen;
+  for (const forms::Form* form : windows) session.Write(WindowText(toolkit, *form, detail));
+  if (!windows.empty()) return;
+  session.Write(named ? ControlText(toolkit, Named(session, words[0])) : "no window shows\n");
 }
 
 void Choose(Session& session, const Words& words) {

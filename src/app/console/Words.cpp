@@ -101,8 +101,7 @@ std::string Suggestion(std::string_view wanted, const Words& names) {
 
 Words SplitWords(std::string_view line) {
   if (line.size() > LongestLine) {
-    throw CommandError("the line has " + std::to_string(line.size()) + " bytes; at most " +
-                       std::to_string(LongestLine) + " are taken");
+    throw CommandError("the line has more than " + std::to_string(LongestLine) + " bytes");
   }
   if (line.find('\0') != line.npos) throw CommandError("the line holds a NUL");
   Words words;
