@@ -55,7 +55,7 @@ class Desktop {
                                 const std::string& text) = 0;
 
   // Sets a value of the window's record. 0 as window procedure (index -4) is no procedure and is
-  // not handed on to the system, which would call it with the next message: the window stays as it
+  // not passed on to the system, which would call it with the next message: the window stays as it
   // is.
   virtual void SetWindowLongA(WindowHandle window, int index, std::int32_t value) = 0;
 

@@ -10,7 +10,7 @@ using KeyHandle = std::uint32_t;      // a registry key; 0 is none
 using WindowHandle = std::uintptr_t;  // a window; 0 is none
 using IconHandle = std::uintptr_t;    // an icon; 0 is none
 
-// The system's error codes that the program or its tests tell apart.
+// The system's error codes that the program or its tests distinguish.
 inline constexpr std::int32_t ErrorSuccess = 0;
 inline constexpr std::int32_t ErrorFileNotFound = 2;
 inline constexpr std::int32_t ErrorPathNotFound = 3;

@@ -1,5 +1,5 @@
 // Libraries, and the threads that run an entry of theirs: how a library is made to register itself.
-// It does not tell why a call failed; nobody asks.
+// Why a call failed is not given; nobody asks.
 #ifndef VANTREL_PLATFORM_MODULES_H_
 #define VANTREL_PLATFORM_MODULES_H_
 
@@ -28,7 +28,7 @@ class Modules {
   // file is missing or no library.
   virtual ModuleHandle LoadLibraryA(const std::string& path) = 0;
 
-  // The library's entry of that name, upper and lower case told apart; 0 if it has none or the
+  // The library's entry of that name, upper and lower case distinguished; 0 if it has none or the
   // handle is none.
   virtual EntryAddress GetProcAddress(ModuleHandle module, const std::string& name) = 0;
 

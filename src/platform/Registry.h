@@ -48,8 +48,8 @@ class Registry {
                                        std::uint32_t access, bool withSecurityRecord,
                                        KeyHandle& opened) = 0;
 
-  // Copies a value's bytes into `buffer`. On entry `length` is the room in it, at most its size;
-  // on return the value's byte length, also with 234 (the value is longer than the room, the
+  // Copies a value's bytes into `buffer`. On entry `length` is the space in it, at most its size;
+  // on return the value's byte length, also with 234 (the value is longer than that, the
   // buffer's content is then undefined). 2 if there is no such value. An empty name is the key's
   // default value.
   virtual std::int32_t RegQueryValueExA(KeyHandle key, const std::string& valueName,
@@ -65,8 +65,8 @@ class Registry {
 
   virtual std::int32_t RegDeleteValueA(KeyHandle key, const std::string& valueName) = 0;
 
-  // The index-th value: name and data, each cut to what the call returned. `name` and `data` have
-  // the room of `nameRoom` and `dataRoom` bytes (the name's with its terminator). 259 past the last
+  // The index-th value: name and data, each cut to what the call returned. `name` and `data` hold
+  // at most `nameRoom` and `dataRoom` bytes (the name's with its terminator). 259 past the last
   // value, 234 if either does not fit, 5 on a key opened without query access.
   virtual std::int32_t RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t nameRoom,
                                      std::string& name, std::uint32_t& type, std::uint32_t dataRoom,

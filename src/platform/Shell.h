@@ -18,7 +18,7 @@ inline constexpr std::uint32_t NimModify = 1;
 inline constexpr std::uint32_t NimDelete = 2;
 
 // The record of one tray icon, field by field as the shell takes it. `cbSize` names the record's
-// first form; the adapter hands over the system's own size of that form.
+// first form; the adapter passes the system's own size of that form.
 struct NotifyIconData {
   std::uint32_t cbSize = 0;
   WindowHandle hWnd = 0;
@@ -32,7 +32,7 @@ struct NotifyIconData {
 // A place in the shell, made by the shell; 0 is none.
 using ItemList = std::uintptr_t;
 
-// Where a buffer for a path has room for 260 bytes.
+// The size of a buffer for a path, in bytes.
 inline constexpr std::size_t PathRoom = 260;
 
 // Only folders of the file system may be chosen.

@@ -1,6 +1,6 @@
 // The run-time errors of the program's language: a number that handlers test and a description
 // that boxes show. They are thrown by conversions, forms and file operations, and trapped by the
-// handlers that are told to; nothing else in the program throws across components.
+// handlers that ask for it; nothing else in the program throws across components.
 #ifndef VANTREL_TEXT_RUNTIMEERROR_H_
 #define VANTREL_TEXT_RUNTIMEERROR_H_
 

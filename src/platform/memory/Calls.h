@@ -37,7 +37,7 @@ class Trace {
   std::vector<std::string> lines_;
 };
 
-// Counts every call of one process and tells which fail. A failing call has no effect and gives
+// Counts every call of one process and says which fail. A failing call has no effect and gives
 // what it gives in the system when it fails: the error code where it returns one, else false, 0 or
 // nothing. Calls that cannot fail are counted and succeed. A name that no call has is a misuse.
 class FaultPlan {

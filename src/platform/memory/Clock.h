@@ -1,4 +1,4 @@
-// The time of the in-memory Windows and the timers of its processes. It moves only when told.
+// The time of the in-memory Windows and the timers of its processes. It moves only by Advance.
 // Not modelled: timer messages waiting for a pump (a due callback runs inside Advance), and the
 // drift and resolution of real timers.
 #ifndef VANTREL_PLATFORM_MEMORY_CLOCK_H_

@@ -41,7 +41,7 @@ class FileTree {
   }
   // Locked: another program has the file open for itself alone, or works in the folder.
   void SetLocked(const std::string& path, bool locked);
-  // How many more bytes the disk takes; unlimited until told.
+  // How many more bytes the disk takes; unlimited until set.
   void SetFreeSpace(std::optional<std::uint64_t> bytes) { freeSpace_ = bytes; }
 
   // Whether there is a file, folder or link; a link need not lead anywhere.

@@ -8,7 +8,7 @@
 namespace vantrel::platform::memory {
 namespace {
 
-// Addresses are told from handles and from small numbers at a glance.
+// Addresses look different from handles and from small numbers.
 constexpr EntryAddress FirstAddress = 0x401000;
 constexpr EntryAddress AddressStep = 0x10;
 

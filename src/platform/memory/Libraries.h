@@ -29,7 +29,7 @@ struct Thread {
 class Libraries {
  public:
   using Entry = std::function<std::int32_t()>;
-  using Entries = std::map<std::string, Entry>;  // by name, case told apart
+  using Entries = std::map<std::string, Entry>;  // by name, case distinguished
 
   // An entry that does not return until Release.
   static inline const Entry Hangs;

@@ -1,4 +1,4 @@
-// What tells one process of the in-memory Windows from the others.
+// What distinguishes one process of the in-memory Windows from the others.
 #ifndef VANTREL_PLATFORM_MEMORY_PROCESSIDENTITY_H_
 #define VANTREL_PLATFORM_MEMORY_PROCESSIDENTITY_H_
 

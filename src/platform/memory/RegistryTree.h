@@ -60,7 +60,7 @@ struct RegistryKey : std::enable_shared_from_this<RegistryKey> {
   std::string Path() const;
 };
 
-// A test's own hand in the registry: it obeys no refusal. A root must be one of the predefined
+// A test's direct access to the registry: it obeys no refusal. A root must be one of the predefined
 // ones. Subkeys are paths with backslashes.
 class RegistryTree {
  public:

@@ -155,7 +155,7 @@ std::int32_t RegistryView::RegQueryValueExA(KeyHandle key, const std::string& va
   length = static_cast<std::uint32_t>(value->data.size());
   if (length > room) return ErrorMoreData;
   std::copy(value->data.begin(), value->data.end(), buffer.begin());
-  // A text without a terminator gets one where there is room; it is not counted.
+  // A text without a terminator gets one where there is space; it is not counted.
   const bool terminated = value->data.ends_with('\0');
   if (HoldsText(type) && length > 0 && length < room && !terminated) buffer[length] = '\0';
   return ErrorSuccess;

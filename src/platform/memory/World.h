@@ -1,7 +1,7 @@
 // The in-memory Windows: all that its processes share. Any number of processes live in one world,
 // on one thread; it holds no global state, so worlds are independent of each other. What each part
 // does not model stands in its own header; the world as a whole has no threads but those that
-// Libraries tells of, no users but one, no sessions and no network.
+// Libraries has, no users but one, no sessions and no network.
 #ifndef VANTREL_PLATFORM_MEMORY_WORLD_H_
 #define VANTREL_PLATFORM_MEMORY_WORLD_H_
 
@@ -41,7 +41,7 @@ struct OpenedDocument {
   int showCommand = 0;
 };
 
-// The folder picker while it is open: how it was opened, and the folder that it was told to select.
+// The folder picker while it is open: how it was opened, and the folder that it is to select.
 struct FolderPicker {
   BrowseInfo Info;
   std::string Selected;
@@ -78,7 +78,7 @@ struct World {
   // The calls of all processes.
   Trace trace;
 
-  // What GetVersionExA tells: Windows XP. The size is ignored.
+  // What GetVersionExA gives: Windows XP. The size is ignored.
   VersionRecord version{156, 5, 1, 2600, 2};
 
   // Who has claimed a program's name as a running instance.
