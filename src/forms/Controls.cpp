@@ -49,7 +49,7 @@ void Label::SetBorderStyle(int borderStyle) {
   Require(borderStyle == NoBorder || borderStyle == SingleLine);
   if (borderStyle_ == borderStyle) return;
   borderStyle_ = borderStyle;
-  // Like a font, a border changes what room the text needs.
+  // Like a font, a border changes what space the text needs.
   Changed(Aspect::Font);
 }
 

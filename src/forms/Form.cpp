@@ -167,7 +167,7 @@ void Form::SetSize(int width, int height) {
 void Form::SetWindowState(forms::WindowState state) {
   if (state_ == state) return;
   state_ = state;
-  // The screen's side may tell the new size from within; that is this change's one Resize.
+  // The screen's side may report the new size from within; that is this change's one Resize.
   const unsigned before = resizes_;
   Changed(Aspect::State);
   if (resizes_ == before) RaiseResize();

@@ -110,7 +110,7 @@ class Form {
   // 0 while it is not loaded.
   Handle hWnd() const;
   Handle IconHandle() const;
-  // The window takes part in Tab and shows within this one from now on; told by whoever hosts it.
+  // The window takes part in Tab and shows within this one from now on; set by whoever hosts it.
   void SetHost(Form* host) { host_ = host; }
   Form* Host() const { return host_; }
   // The window that it shows within in the end, itself if nobody hosts it.

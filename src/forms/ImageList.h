@@ -12,7 +12,7 @@ namespace vantrel::forms {
 
 class ImageList {
  public:
-  // So many images, told by number only.
+  // So many images, known by number only.
   ImageList(Form& form, std::string name, int count);
   // One image a key, numbered in this order.
   ImageList(Form& form, std::string name, std::vector<std::string> keys);

@@ -1,5 +1,5 @@
-// The screen's side of a window and of its controls. A toolkit makes the peers; the models tell
-// them what changed and never ask how it is shown.
+// The screen's side of a window and of its controls. A toolkit makes the peers; the models
+// report what changed to them and never ask how it is shown.
 #ifndef VANTREL_FORMS_PEER_H_
 #define VANTREL_FORMS_PEER_H_
 

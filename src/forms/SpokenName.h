@@ -1,4 +1,4 @@
-// What a screen reader says of a control: the name by which it is told from every other of its
+// What a screen reader says of a control: the name that distinguishes it from every other of its
 // window, and a description where there is more to say.
 #ifndef VANTREL_FORMS_SPOKENNAME_H_
 #define VANTREL_FORMS_SPOKENNAME_H_

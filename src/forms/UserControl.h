@@ -1,5 +1,5 @@
 // The surface of a control made of other controls: a window of its own, with the container's ways
-// of focus and keyboard. What it does is told by the control that derives from it.
+// of focus and keyboard. What it does is decided by the control that derives from it.
 #ifndef VANTREL_FORMS_USERCONTROL_H_
 #define VANTREL_FORMS_USERCONTROL_H_
 
@@ -13,7 +13,7 @@ class UserControl : public Control {
   void Accept(ControlVisitor& visitor) override;
   bool IsTabStop() const override { return true; }
 
-  // The screen's side tells: the size has changed; Enter or Space was pressed on it.
+  // The screen's side reports: the size has changed; Enter or Space was pressed on it.
   virtual void Resized() {}
   virtual void KeyPressed() {}
   // The control whose text and pointer the surface shows, nullptr for none.

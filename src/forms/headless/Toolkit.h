@@ -1,7 +1,7 @@
 // The toolkit without a screen, on the in-memory desktop and clock. Every window, and every control
 // but images, timers and the parts of a control made of others, has a record there. Messages sent
 // to a record act on the model at the border: WmSetText, BmClick (buttons only, when enabled),
-// WM_MOUSEMOVE, WM_CLOSE, and shows and sizes told by the desktop.
+// WM_MOUSEMOVE, WM_CLOSE, and shows and sizes sent by the desktop.
 #ifndef VANTREL_FORMS_HEADLESS_TOOLKIT_H_
 #define VANTREL_FORMS_HEADLESS_TOOLKIT_H_
 
@@ -27,7 +27,7 @@ class Toolkit : public forms::Toolkit {
   std::unique_ptr<FormPeer> MakeWindow(Form& form) override;
   double TwipsPerPixelX() const override { return 15; }
 
-  // Told of everything the screen would show, in order, one line each: "frmMain Load" (its window
+  // Gets everything the screen would show, in order, one line each: "frmMain Load" (its window
   // is made), "Show", "Hide", "Unload"; changes as "FrmFrameMain.cmdstart
   // Enabled=False", "frmMain Caption=Vantrel", "Screen MousePointer=11".
   std::function<void(const std::string&)> Trace;

@@ -126,7 +126,7 @@ std::string FormWords(const Form& form, Aspect aspect) {
   }
 }
 
-// The parts of a control made of others are told with its name: "frmMain.LnkHelp.lblHyperlink".
+// The parts of a control made of others are named behind it: "frmMain.LnkHelp.lblHyperlink".
 std::string NameOf(const Control& control) {
   const auto* surface = dynamic_cast<const UserControl*>(control.Container());
   return surface == nullptr ? control.QualifiedName()

@@ -1,4 +1,4 @@
-// The trace's words for a change: "FrmFrameMain.cmdstart Enabled=False".
+// A change as a line of the trace: "FrmFrameMain.cmdstart Enabled=False".
 #ifndef VANTREL_FORMS_HEADLESS_TRACELINE_H_
 #define VANTREL_FORMS_HEADLESS_TRACELINE_H_
 

@@ -1,4 +1,4 @@
-// The hand of whoever sits before the windows: tests and the console. Each act is an event at the
+// The user of the windows, for tests and the console. Each act is an event at the
 // border, and is refused (false) where a user could not do it: on what does not show, is disabled,
 // or lies behind a modal window.
 #ifndef VANTREL_FORMS_HEADLESS_USER_H_
@@ -19,7 +19,7 @@ class User {
  public:
   explicit User(Toolkit& toolkit) : toolkit_(toolkit) {}
 
-  // Whether the hand gets there now.
+  // Whether the user can act on it now.
   bool CanReach(const Control& control) const;
   bool CanReach(const Form& form) const;
 

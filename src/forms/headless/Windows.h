@@ -1,5 +1,5 @@
 // The peers without a screen: each keeps one record of the in-memory desktop in step with its
-// model, and hands messages to the model. Only the toolkit of this component makes them.
+// model, and passes messages to the model. Only the toolkit of this component makes them.
 #ifndef VANTREL_FORMS_HEADLESS_WINDOWS_H_
 #define VANTREL_FORMS_HEADLESS_WINDOWS_H_
 

@@ -1,5 +1,5 @@
 // Stands for the window of a control until that is made: a form makes its controls' windows all at
-// once, as late as it can. Changes need no telling, since a window shows what the model says when
+// once, as late as it can. Changes need no report, since a window shows what the model says when
 // it is made; who asks for the handle or the focus has all of them made first.
 #ifndef VANTREL_FORMS_WIN32_AWAITEDPEER_H_
 #define VANTREL_FORMS_WIN32_AWAITEDPEER_H_

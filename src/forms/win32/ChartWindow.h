@@ -1,5 +1,5 @@
 // A bar chart: one row of columns in their own colours over an axis. Its window text says the same
-// in words, for those who cannot see it.
+// as text, for those who cannot see it.
 #ifndef VANTREL_FORMS_WIN32_CHARTWINDOW_H_
 #define VANTREL_FORMS_WIN32_CHARTWINDOW_H_
 

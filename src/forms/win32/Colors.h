@@ -19,7 +19,7 @@ class Colors {
   Colors() { Refresh(); }
 
   // Takes the user's scheme as it is now. Until the next time all is painted in that one: a paint
-  // between a change of colours and the message that tells of it would mix the two.
+  // between a change of colours and the message that reports it would mix the two.
   void Refresh();
   // Whether the scheme's colours replace the program's own.
   bool Contrast() const { return contrast_; }

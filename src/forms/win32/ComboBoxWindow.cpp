@@ -26,7 +26,7 @@ void ComboBoxWindow::Prepare() {
   Fit();
 }
 
-// The field is as high as designed; the height that Windows is told is that of the open list.
+// The field is as high as designed; the height that Windows gets is that of the open list.
 void ComboBoxWindow::Fit() {
   const RECT area = System().Pixels.Rectangle(box_.At());
   const int row = static_cast<int>(SendMessageA(Handle(), CB_GETITEMHEIGHT, 0, 0));

@@ -19,7 +19,7 @@ class ControlWindow : public Window {
 
   // Makes the window under its container's, at its place.
   void CreateUnder(HWND parent, int identifier);
-  // Once the model knows its window: what the window then tells the model.
+  // Once the model knows its window: what the window then reports to the model.
   virtual void Settle() {}
   // Shows what has changed in the model.
   virtual void Changed(Aspect aspect);

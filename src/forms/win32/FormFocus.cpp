@@ -67,7 +67,7 @@ void FormWindow::RestoreFocus() {
   if (first != nullptr) ::SetFocus(HandleOf(*first));
 }
 
-// A panel that goes with the focus in it hands it to the window around it.
+// A panel that goes with the focus in it gives it to the window around it.
 void FormWindow::LeaveFocus() {
   if (!IsPanel() || !IsChild(Handle(), GetFocus())) return;
   const HWND root = GetAncestor(Handle(), GA_ROOT);

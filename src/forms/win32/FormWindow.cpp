@@ -57,7 +57,7 @@ void LetIn(HWND window, UINT message) {
 
 bool IsVisibleItself(HWND window) { return (GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0; }
 
-// Only top-level windows are told of a new scheme by Windows; common controls want to know.
+// Windows sends a new scheme to top-level windows only; common controls need it, too.
 BOOL CALLBACK PassSchemeOn(HWND child, LPARAM) {
   SendMessageA(child, WM_SYSCOLORCHANGE, 0, 0);
   return TRUE;

@@ -92,7 +92,7 @@ class FormWindow : public Window {
 
 std::unique_ptr<FormPeer> MakeFormWindow(WindowSystem& system, Form& form);
 
-// The mouse as the models are told of it, in twips.
+// The mouse as it is reported to the models, in twips.
 struct MouseState {
   int Button = 0;
   int Shift = 0;

@@ -68,7 +68,7 @@ HFONT LabelWindow::TextFont() const {
     font.Size = style.Points;
     font.Bold = style.Bold;
   }
-  // A scheme's text colour alone does not tell a link.
+  // A scheme's text colour alone does not mark a link.
   font.Underline = font.Underline || IsLit() || (IsLink() && System().Palette.Contrast());
   return System().Typefaces.Of(font);
 }

@@ -18,7 +18,7 @@ constexpr int LeftIndent = 4;      //
 WindowShape ToolbarWindow::Shape() const {
   WindowShape shape;
   shape.ClassName = TOOLBARCLASSNAMEA;
-  // The text of a button is its tip and its name; with the list style it takes no room.
+  // The text of a button is its tip and its name; with the list style it takes no space.
   shape.Style = TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS | TBSTYLE_TRANSPARENT |
                 CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER;
   return shape;

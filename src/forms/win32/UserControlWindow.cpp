@@ -129,7 +129,7 @@ LRESULT UserControlWindow::OnMessage(UINT message, WPARAM first, LPARAM second) 
     case WM_LBUTTONUP:
       return FollowButton(message, first, second, true, [this] { Face().UserClick(); });
     case WM_MOUSEMOVE:
-      // While a button is held the mouse is told here wherever it is. Outside it is not over the
+      // While a button is held the mouse arrives here wherever it is. Outside it is not over the
       // face: taken for that, it would begin a hover that the next look at the mouse ends again.
       // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the hover that ControlWindow begins
       if (!HasMouse(second)) return Window::OnMessage(message, first, second);

@@ -44,7 +44,7 @@ struct Pictures {
 
 class Win32Toolkit : public Toolkit {
  public:
-  // The program's loop of messages. Returns when the program is ending, or was told to quit.
+  // The program's loop of messages. Returns when the program is ending, or received WM_QUIT.
   virtual void RunMessageLoop() = 0;
 };
 

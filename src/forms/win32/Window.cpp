@@ -82,7 +82,7 @@ LRESULT CALLBACK Window::Receive(HWND window, UINT message, WPARAM first, LPARAM
     }
   }
   Window* object = ObjectOf(window);
-  // Windows end only by the toolkit's hand: a foreign program's word for it is not taken.
+  // Only the toolkit ends windows: the messages of their end are ignored from anybody else.
   const bool isEnd = message == WM_DESTROY || message == WM_NCDESTROY;
   if (object != nullptr && isEnd && !object->system_.Destroying) return 0;
   if (object != nullptr && message != WM_NCDESTROY) {

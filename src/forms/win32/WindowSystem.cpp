@@ -55,7 +55,7 @@ void WindowSystem::RunWhile(const std::function<bool()>& goesOn) {
     MakeAwaited();
     const BOOL received = GetMessageA(&message, nullptr, 0, 0);
     if (received <= 0) {
-      // Told to quit: the outer loops are to end as well.
+      // WM_QUIT: the outer loops are to end as well.
       if (received == 0) PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }
