@@ -13,8 +13,8 @@
 
 int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*/, int /*show*/) {
   using namespace vantrel;
-  // No library is loaded from the current folder, and one that cannot be loaded is the program's to
-  // tell, not a box of the system's.
+  // No library is loaded from the current folder, and one that cannot be loaded is reported by
+  // the program, not by a box of the system's.
   SetDllDirectoryA("");
   SetErrorMode(SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   const auto platform = platform::win32::MakeWin32Platform();

@@ -7,7 +7,7 @@
 
 namespace vantrel::blocking {
 
-// Tells that the browser may need a restart, saves the block settings (which is meant not to
+// Says that the browser may need a restart, saves the block settings (which is meant not to
 // include this box), and writes or deletes the toolbar's entry.
 void chkGShowToolbar_Click(program::Program& program);
 

@@ -1,4 +1,4 @@
-// The Notification panel: how the engine tells of a block. The panel only stores the choices, and
+// The Notification panel: how the engine reports a block. The panel only stores the choices, and
 // plays the chosen sound as a test.
 #ifndef VANTREL_BLOCKING_NOTIFICATIONPANEL_H_
 #define VANTREL_BLOCKING_NOTIFICATIONPANEL_H_
@@ -19,7 +19,7 @@ void cmdDefaultNotify_Click(program::Program& program);
 // Another sound was picked: saves, but not for one that cmbsound_Validate picks.
 void cmbsound_Click(program::Program& program);
 
-// Leaving the list of sounds: saves if its text is an entry or empty; else tells so, picks
+// Leaving the list of sounds: saves if its text is an entry or empty; else says so, picks
 // "click" and keeps the focus, and saves nothing.
 void cmbsound_Validate(program::Program& program, bool& keepFocus);
 

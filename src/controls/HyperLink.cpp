@@ -37,7 +37,7 @@ std::string FontText(const forms::Font& font) {
 
 }  // namespace
 
-// One row a property but the font, whose text does not tell all of it: its text, the defaults of
+// One row a property but the font, whose text does not give all of it: its text, the defaults of
 // reading and of writing, and how a text becomes its value.
 struct HyperLink::Property {
   const char* Name;

@@ -25,7 +25,7 @@ class HyperLink : public forms::UserControl {
   HyperLink(const forms::Parent& parent, std::string name, const forms::Design& design,
             const PropertyBag& saved = {});
 
-  // Whom to ask for the mouse and for the opening of addresses. Until it is told, the mouse counts
+  // Whom to ask for the mouse and for the opening of addresses. Until it is set, the mouse counts
   // as gone and addresses are not opened.
   void UsePlatform(platform::Platform& platform) { platform_ = &platform; }
 

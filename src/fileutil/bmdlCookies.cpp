@@ -6,7 +6,7 @@
 namespace vantrel::fileutil {
 namespace {
 
-// The place that the shell hands out is not freed: this is meant.
+// The item list that the shell gives out is not freed: this is meant.
 std::string SpecialFolder(platform::Shell& shell, platform::WindowHandle owner, int number) {
   platform::ItemList list = 0;
   if (shell.SHGetSpecialFolderLocation(owner, number, list) != 0) return {};

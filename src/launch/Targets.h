@@ -32,7 +32,7 @@ inline constexpr Target WelcomeHelp{Base::ProgramFolder, "\\help\\welcome.htm"};
 inline constexpr Target UpdatesPage{Base::FirstHostWithScheme, "/vantrel/updates.html"};
 inline constexpr Target PopupTestPage{Base::TestPage, ""};
 
-// The address as it is handed to OpenUrl.
+// The address as it is given to OpenUrl.
 std::string AddressOf(const program::Program& program, const Target& target);
 
 }  // namespace vantrel::launch

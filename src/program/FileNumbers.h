@@ -1,5 +1,5 @@
 // The program's file numbers: an open file has one, from 1 on, until it is closed. One owner for
-// the whole program, so that a number tells how many files are open below it.
+// the whole program, so that a number says how many files are open below it.
 #ifndef VANTREL_PROGRAM_FILENUMBERS_H_
 #define VANTREL_PROGRAM_FILENUMBERS_H_
 

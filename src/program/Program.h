@@ -42,7 +42,7 @@ class Program {
   std::string BrowseStartPath;
   // The cookies folder as the last scan that found one has it.
   std::string CookiesFolder;
-  // The record of the one tray icon, as it was last handed to the shell.
+  // The record of the one tray icon, as it was last given to the shell.
   platform::NotifyIconData TrayIcon;
   // The record of the main window's own icon, which is never added.
   platform::NotifyIconData MainTrayIcon;

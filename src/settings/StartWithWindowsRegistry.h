@@ -1,5 +1,5 @@
 // The registry calls of the start-with-Windows entry alone: they open with the short access mask,
-// store a text with its terminator, and tell failures in boxes.
+// store a text with its terminator, and report failures in boxes.
 #ifndef VANTREL_SETTINGS_STARTWITHWINDOWSREGISTRY_H_
 #define VANTREL_SETTINGS_STARTWITHWINDOWSREGISTRY_H_
 

@@ -10,7 +10,7 @@ namespace vantrel::shell {
 // Unloads every loaded window, in the order of their creation; does not end the process.
 void UnloadAllForms(program::Program& program);
 
-// Hands the window procedure that was never replaced back to the window: the value is 0 and the
+// Gives the window procedure that was never replaced back to the window: the value is 0 and the
 // call has no effect. It stays; this is meant.
 void RestoreWindowProc(program::Program& program, forms::Form& form);
 

@@ -66,8 +66,8 @@ void ColourNavigation(frmMain& form) {
   }
 }
 
-// What every copy does, also one that is going to hand over and exit. Touching the Welcome panel
-// adds the tray icon.
+// What every copy does, also one that is going to pass its command on and exit. Touching the
+// Welcome panel adds the tray icon.
 std::string PrepareWindow(Program& program, frmMain& form) {
   auto& welcome = *program.windows.FrmFrameMain;
   welcome.Image1.SetPicture(welcome.ImageList2, 1);

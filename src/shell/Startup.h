@@ -1,4 +1,4 @@
-// From process start to the idle control panel: the browser gate, the hand-over to a running copy,
+// From process start to the idle control panel: the browser gate, the command for a running copy,
 // the first-run settings, the panels, the saved settings, and the press of Start at the end. The
 // order is fixed; other programs and the next start rely on it.
 #ifndef VANTREL_SHELL_STARTUP_H_

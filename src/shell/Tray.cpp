@@ -29,7 +29,7 @@ void FillTip(std::array<char, 64>& field) {
 }
 
 // The tray's code comes as the x coordinate of a mouse move. A real mouse at that pixel column
-// cannot be told apart; this is meant.
+// cannot be distinguished; this is meant.
 std::int32_t CallbackCode(const forms::Form& form, float x) {
   const double pixels = form.ScaleMode() == forms::ScaleMode::Pixels
                             ? static_cast<double>(x)

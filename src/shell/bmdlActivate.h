@@ -23,7 +23,7 @@ platform::WindowHandle FindWindowByCaption(program::Program& program, const std:
 // Brings a window forward, restoring it if it is minimised; nothing for handle 0.
 void ActivateWindow(platform::Desktop& desktop, platform::WindowHandle window);
 
-// Hands the command to the running copy and returns when that has carried it out. Without a
+// Sends the command to the running copy and returns when that has carried it out. Without a
 // receiver the command is lost, silently.
 void SendCommand(program::Program& program, const std::string& command);
 

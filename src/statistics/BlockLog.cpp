@@ -43,7 +43,7 @@ void ZeroAndShow(Program& program) {
     settings::WriteRegistryValue(program.platform.registry, platform::HKeyCurrentUser,
                                  settings::BlockLogKey, counter.ValueName, 0, platform::RegDword);
   }
-  // The displays are meant to tell the boxes, not the zeros just written.
+  // The displays are meant to show the boxes, not the zeros just written.
   ShowTotal(program);
 }
 

@@ -1,4 +1,4 @@
-// The small dialog that tells the program's name, version and maker.
+// The small dialog that shows the program's name, version and maker.
 #ifndef VANTREL_WINDOWS_FRMABOUT_H_
 #define VANTREL_WINDOWS_FRMABOUT_H_
 

@@ -12,7 +12,7 @@ inline constexpr int GridStep = 15;
 
 constexpr int Steps(int count) { return count * GridStep; }
 
-// A place told in steps of the grid.
+// A place given in steps of the grid.
 constexpr forms::Place Grid(int left, int top, int width, int height) {
   return {Steps(left), Steps(top), Steps(width), Steps(height)};
 }
