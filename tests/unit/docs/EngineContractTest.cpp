@@ -334,7 +334,7 @@ TEST_F(EngineContract, GDisabledIsWrittenAsTheTableHasIt) {
          EXPECT_EQ(Number(BlockSettings, "GDisabled"), 7U);
        }},
       {"the program ends", [this] { End(); }},
-      {"a second copy has handed over its command and ends", [this] { StartAgain("/graph"); }},
+      {"a second copy has passed its command on and ends", [this] { StartAgain("/graph"); }},
   };
   ForEachRow(page.TableBehind("GDisabled"), acts, [this](const Row& row, const Act& act) {
     if (copy == nullptr || !Main().Visible()) Start();
