@@ -1,8 +1,9 @@
 # What every build for Windows needs, across from Debian as on Windows itself: the architecture, as
 # the compiler has it; Windows XP's interface, newer calls being resolved at run time; a stack
-# protector; everything linked statically.
+# protector; everything linked statically; no time of day in the file, so that the same sources give
+# the same bytes.
 set(flags -fstack-protector-strong -ffunction-sections -fdata-sections)
-set(linkerFlags -static -Wl,--gc-sections,--dynamicbase,--nxcompat)
+set(linkerFlags -static -Wl,--gc-sections,--dynamicbase,--nxcompat,--no-insert-timestamp)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   set(VANTREL_WINDOWS_ARCH x86)
   # i686 without SSE is what every machine that runs Windows XP has.
