@@ -255,7 +255,7 @@ void AddTrayIcon(HWND owner) {
   Shell_NotifyIconA(NIM_ADD, &icon);
 }
 
-// The mailbox and the Start button last: they tell the driver, as in the control panel, that the
+// The mailbox and the Start button last: they show the driver, as in the control panel, that the
 // start is over.
 void TellReady(HWND main) {
   HWND start = MakeControl(panels[0], Button, "Start", 20, PanelColumns);

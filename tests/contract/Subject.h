@@ -1,4 +1,4 @@
-// One implementation of the platform under the contract suite, with the hands that a case needs to
+// One implementation of the platform under the contract suite, with the means that a case needs to
 // prepare the world around it. Every case gets a subject of its own.
 #ifndef VANTREL_TESTS_CONTRACT_SUBJECT_H_
 #define VANTREL_TESTS_CONTRACT_SUBJECT_H_
@@ -38,7 +38,7 @@ class Subject {
   // Opens the file for reading and writing, shared with readers and writers, until the subject
   // dies.
   virtual void OpenShared(const std::string& path) = 0;
-  // Opens the file for itself alone, until told otherwise or the subject dies.
+  // Opens the file for itself alone, until closed again or the subject dies.
   virtual void Lock(const std::string& path) = 0;
   virtual void Unlock() = 0;
   // Puts a program there that ends at once.

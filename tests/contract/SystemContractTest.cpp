@@ -1,4 +1,4 @@
-// What the system tells a process about itself.
+// What the system gives a process about itself.
 #include <gmock/gmock.h>
 
 #include "contract/Subject.h"

@@ -21,7 +21,7 @@ class LifetimeTest : public ProgramTest {
   const Running& Program() const { return *program_; }
   HWND Window() const { return Program().Find("frmMain"); }
 
-  // Gone soon, and the engine told that blocking is off.
+  // Gone soon, and the registry says that blocking is off.
   void ExpectEnded() const {
     EXPECT_TRUE(Program().WaitForExit());
     DWORD code = 99;

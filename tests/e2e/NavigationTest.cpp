@@ -176,7 +176,7 @@ TEST_F(NavigationTest, TheHelpToolShowsTheFrameAndHidesNothing) {
   ExpectShown({Welcome, "FrmFrameNotification"}, "menu");
   EXPECT_FALSE(HelpShown());
   Program().ChooseMenu("submnuLaunchHelp");
-  // The title is the same before: the frame tells that the menu has answered.
+  // The title is the same before: the frame shows that the menu has answered.
   EXPECT_TRUE(WaitFor([this] { return HelpShown(); }));
   ExpectTitle("Help - Qorvel Software Vantrel ", "menu");
   ExpectShown({Welcome, "FrmFrameNotification"}, "menu");

@@ -9,7 +9,7 @@ Reads the table of components from SRC/CMakeLists.txt and every #include under S
 - the operating system's headers are included only under win32/ and app/;
 - no two files include each other in a circle;
 - every folder with code is a component of the table (app/ has a build file of its own).
-Prints one line a violation; the exit code tells whether there was one.
+Prints one line a violation; the exit code says whether there was one.
 """
 import pathlib
 import re

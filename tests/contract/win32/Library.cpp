@@ -1,4 +1,4 @@
-// The library that the contract's cases load; Subject.h tells what its entries do.
+// The library that the contract's cases load; Subject.h says what its entries do.
 #include <windows.h>
 
 extern "C" __declspec(dllexport) HRESULT __stdcall DllRegisterServer() { return 7; }

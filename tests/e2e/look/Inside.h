@@ -15,7 +15,7 @@ class Inside {
   Inside& operator=(const Inside&) = delete;
 
   LOGFONTA FontOf(HWND control) const;
-  // White becomes black and the like, and every window is told; the second time it is undone.
+  // White becomes black and the like, and every window is notified; the second time it is undone.
   void InvertColors() const;
 
  private:

@@ -53,7 +53,7 @@ class LookFixture : public ProgramTest {
     main_ = copy_.Find("frmMain");
   }
 
-  // The visible controls below a window: those of the panel that is told, and of no other.
+  // The visible controls below a window: those of the panel that is given, and of no other.
   std::vector<Seen> ControlsOf(const std::string& form) const {
     std::vector<Seen> seen;
     for (const auto& [name, window] : copy_.Named()) {

@@ -199,7 +199,7 @@ void ShootMenus(const Copy& copy, HWND main) {
   WaitFor([&] { return menu() == nullptr; }, 5000);
 }
 
-// Showing the browser's toolbar or not tells of a restart; twice, so that nothing has changed.
+// Showing the browser's toolbar or not warns of a restart; twice, so that nothing has changed.
 void ShootBox(const Copy& copy) {
   const auto box = [&] { return copy.FindShown("#32770"); };
   for (const bool picture : {true, false}) {

@@ -1,5 +1,5 @@
 // A browser that opens nothing: it appends how it was started to the file named by VANTREL_RECORD,
-// a line each: the number of the window state that it was told ("-" if none), a blank, and the
+// a line each: the number of the window state that it was given ("-" if none), a blank, and the
 // command line.
 #include <windows.h>
 

@@ -1,5 +1,5 @@
 // The identifiers of the main window's menu entries: a menu of another process cannot be read, so
-// its order is told here.
+// its order is given here.
 #ifndef VANTREL_TESTS_E2E_SUPPORT_MENUS_H_
 #define VANTREL_TESTS_E2E_SUPPORT_MENUS_H_
 

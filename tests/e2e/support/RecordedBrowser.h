@@ -1,4 +1,4 @@
-// A browser that is registered for the time of a test and tells what it was started with.
+// A browser that is registered for the time of a test and reports what it was started with.
 #ifndef VANTREL_TESTS_E2E_SUPPORT_RECORDEDBROWSER_H_
 #define VANTREL_TESTS_E2E_SUPPORT_RECORDEDBROWSER_H_
 

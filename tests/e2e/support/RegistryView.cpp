@@ -9,7 +9,7 @@
 namespace vantrel::e2e {
 namespace {
 
-// How a tree tells the value without a name.
+// How a tree names the value without a name.
 constexpr const char* DefaultValue = "(default)";
 
 // An open key that closes itself.

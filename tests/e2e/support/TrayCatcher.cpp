@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* TrayClass = "Shell_TrayWnd";
 
-// The head of what the shell's library hands over, the same for programs of any word size. The
+// The head of what the shell's library sends, the same for programs of any word size. The
 // bits of the icon's mask and colours follow; without an icon its size is 0.
 struct Handed {
   LONG window;

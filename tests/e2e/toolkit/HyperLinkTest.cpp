@@ -65,7 +65,7 @@ class RealLinks : public testing::Test {
     form_.EnsureLoaded();
     form_.Show();
     toolkit_->DoEvents();
-    // The desktop may still tell of where the pointer was before: a hover that a test did not ask
+    // The desktop may still report where the pointer was before: a hover that a test did not ask
     // for.
     EXPECT_TRUE(GoAway());
     events_.clear();

@@ -1,4 +1,4 @@
-// The real windows, driven by messages and keys as a user's hand and a foreign sender would.
+// The real windows, driven by messages and keys as by a user and by other processes.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -942,7 +942,7 @@ TEST_F(RealWindows, AControlOfAHiddenWindowIsThereWhenItsHandleIsAskedFor) {
   hidden.Unload();
 }
 
-// Windows changes the colours first and tells of it then; what is painted between is of one scheme.
+// Windows changes the colours first and reports it then; what is painted between is of one scheme.
 TEST(SchemeColors, StayAsTheyWereUntilTheProgramIsTold) {
   Colors colors;
   const int index = COLOR_WINDOWTEXT;

@@ -32,7 +32,7 @@ class Engine {
   // How long the caller may rest until the next look, in milliseconds.
   std::uint32_t Pause() const;
 
-  // Tells what was counted.
+  // Prints what was counted.
   void PrintSummary() const;
   // 0 if the entry was ever there, else 1.
   int ExitCode() const { return seenEntry_ ? 0 : 1; }

@@ -612,7 +612,7 @@ TEST_F(HyperLinks, ASavedFontKeepsItsHundredthsAndAnyName) {
   EXPECT_TRUE(Link().Font() == font) << Link().Font().Name << ", " << Link().Font().Size;
 }
 
-// Its text would not tell it from its neighbours.
+// Its text would not distinguish it from its neighbours.
 TEST_F(HyperLinks, TheContainersFontIsTakenAsItIsAndNotSaved) {
   Make();
   form_->Area.SetTextFont({.Name = "Arial", .Size = 8.125});

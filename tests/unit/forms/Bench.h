@@ -1,4 +1,4 @@
-// A workbench for the models: a toolkit whose peers only note what they are told, and a window with
+// A workbench for the models: a toolkit whose peers only note what is reported, and a window with
 // one control of each kind.
 #ifndef VANTREL_TESTS_UNIT_FORMS_BENCH_H_
 #define VANTREL_TESTS_UNIT_FORMS_BENCH_H_

@@ -22,7 +22,7 @@ class Links : public test::ShellTest {
  protected:
   void SetUp() override { copy = StartCopy(); }
 
-  // Clicks the control, or the menu entry, told as "Window.control".
+  // Clicks the control, or the menu entry, named as "Window.control".
   void ClickNamed(const std::string& name) {
     const auto dot = name.find('.');
     const std::string control = name.substr(dot + 1);

@@ -77,7 +77,7 @@ class Machine : public ShellTest {
     EXPECT_EQ(copy->process.OpenKeys(), leftOpen ? 1U : 0U);
   }
 
-  // What the user's hand gets from the window: it shows, and its menus show panels.
+  // What the user gets from the window: it shows, and its menus show panels.
   void ExpectWindowUsable() {
     auto& windows = copy->Windows();
     ASSERT_FALSE(copy->toolkit.Ending());

@@ -30,7 +30,7 @@ class ShellTest : public testing::Test {
     shell::Start(copy->program);
     return copy;
   }
-  // Another start while a copy runs: it hands over its command line and is gone.
+  // Another start while a copy runs: it passes its command line on and is gone.
   void StartAgain(const std::string& commandLine) {
     auto second = StartCopy(commandLine);
     EXPECT_TRUE(second->toolkit.Ending());

@@ -1,7 +1,7 @@
 // The whole sequence of a start, line by line: what the program asks of Windows and, indented, what
 // its windows show of it, in one list held against the texts in golden/. Nothing is left out but
 // the visits of the search for a window. The calls of one plain access to a registry value stand
-// together in one line, with the handle's open and close told by these two words.
+// together in one line, with these two words for the handle's open and close.
 //
 // To write the texts anew after a change that is meant, run this program once with
 // VANTREL_WRITE_GOLDEN=1 in the environment, then read the difference line by line.
@@ -60,7 +60,7 @@ std::string AccessLine(const Lines& lines, std::size_t at, std::size_t length) {
   return line + ", close";
 }
 
-// A line for a file of lines; handles that the desktop gave are told as such.
+// A line for a file of lines; handles that the desktop gave are named as such.
 std::string Readable(const std::string& line) {
   const auto arrow = line.find(" -> ");
   if (line.starts_with("GetParent ")) return line.substr(0, arrow) + " -> a window";
@@ -89,7 +89,7 @@ Lines LinesOf(std::istream& stream) {
   return lines;
 }
 
-// Tells the first line that differs rather than two long texts.
+// Shows the first line that differs rather than two long texts.
 void ExpectGolden(const std::string& name, const std::string& told) {
   if (std::getenv("VANTREL_WRITE_GOLDEN") != nullptr) {
     std::ofstream(GoldenPath(name), std::ios::binary) << told;
@@ -111,7 +111,7 @@ class StartTrace : public test::ShellTest {
   StartTrace() { world.trace.Start(); }
 
   // A copy whose calls and windows are listened to. Hover colours are no window's concern before
-  // the mouse comes, so the links tell them.
+  // the mouse comes, so the links show them.
   std::unique_ptr<Copy> Listened(const std::string& commandLine = "") {
     auto copy = MakeCopy(commandLine);
     Listen(*copy, "");
@@ -136,7 +136,7 @@ class StartTrace : public test::ShellTest {
     };
   }
 
-  // All calls of all processes from here on, and what was told of windows meanwhile.
+  // All calls of all processes from here on, and what was reported of windows meanwhile.
   template <class Act>
   std::string Tell(Act act) {
     TakeCalls();

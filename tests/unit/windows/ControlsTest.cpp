@@ -66,7 +66,7 @@ class Described : public forms::ControlVisitor {
   std::string state_;
 };
 
-// Every text is free where it is told as this.
+// Every text is free where it is given as this.
 constexpr const char* Any = "*";
 
 struct Row {

@@ -1,5 +1,5 @@
 // A stand-in for a companion library: it registers itself under the ProgID that the build gives it,
-// as a COM server does, and can be told from a real one by its class.
+// as a COM server does, and differs from a real one by its class.
 #include <windows.h>
 
 #include <string>
