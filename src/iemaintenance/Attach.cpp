@@ -3,6 +3,7 @@
 #include "fileutil/Listing.h"
 #include "iemaintenance/PluginInventory.h"
 #include "iemaintenance/PluginRemoval.h"
+#include "iemaintenance/SettingsBackup.h"
 #include "program/PanelHosting.h"
 #include "windows/FrmFrameIEPlugin.h"
 #include "windows/FrmFrameIESettings.h"
@@ -27,9 +28,8 @@ void AttachPlugins(Program& program, windows::FrmFrameIEPlugin& form) {
 }  // namespace
 
 void AttachIEMaintenance(Program& program) {
-  program.windows.FrmFrameIESettings.OnMade([&program](windows::FrmFrameIESettings& form) {
-    form.Load = [&program, &form] { program::HostPanel(program, form); };
-  });
+  program.windows.FrmFrameIESettings.OnMade(
+      [&program](windows::FrmFrameIESettings& form) { Attach(program, form); });
   program.windows.FrmFrameIEPlugin.OnMade(
       [&program](windows::FrmFrameIEPlugin& form) { AttachPlugins(program, form); });
 }

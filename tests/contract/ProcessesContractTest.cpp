@@ -40,6 +40,22 @@ TEST_P(ProcessesContract, ApplicationIsTakenAsItStands) {
   EXPECT_EQ(Start(folder_ + "\\My Dir\\x", "x -s"), ErrorFileNotFound);
 }
 
+// A program of the same name that lies where a search would look is not taken for the application:
+// neither in the starter's folder nor where the command line's first word leads.
+TEST_P(ProcessesContract, ApplicationIsNotSearchedFor) {
+  const std::string foreign = platform_.system.ProgramFolder() + "\\vantrel-foreign.exe";
+  subject_->PutProgram(foreign);
+  EXPECT_EQ(Start(folder_ + "\\vantrel-foreign.exe", "vantrel-foreign /e \"a"), ErrorFileNotFound);
+  EXPECT_EQ(Start(folder_ + "\\vantrel-foreign.exe", '"' + foreign + "\" /e \"a"),
+            ErrorFileNotFound);
+  EXPECT_EQ(platform_.folders.DeleteFileA(foreign), 0);
+}
+
+TEST_P(ProcessesContract, CommandLineNeedNotNameTheApplication) {
+  subject_->PutProgram(folder_ + "\\x.exe");
+  EXPECT_EQ(Start(folder_ + "\\x.exe", "other /e \"a b\" \"open"), 0);
+}
+
 TEST_P(ProcessesContract, MissingProgramIsNotFound) {
   EXPECT_EQ(Start("", '"' + folder_ + "\\none.exe\""), ErrorFileNotFound);
   EXPECT_EQ(Start("", folder_ + "\\none.exe"), ErrorFileNotFound);

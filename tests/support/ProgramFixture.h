@@ -12,6 +12,7 @@
 #include "forms/headless/Toolkit.h"
 #include "forms/headless/User.h"
 #include "platform/memory/Process.h"
+#include "platform/memory/RegistryEditor.h"
 #include "platform/memory/World.h"
 #include "program/Program.h"
 #include "support/ExpectedSettings.h"
@@ -50,6 +51,7 @@ inline void FillMachine(platform::memory::World& world) {
   world.registry.SetString(HKeyClassesRoot, "http\\shell\\open\\command", "",
                            "\"C:\\Program Files\\Browser\\browser.exe\" -nohome");
   world.programs.Register("C:\\Program Files\\Browser\\browser.exe", {});
+  platform::memory::InstallRegistryEditor(world);
   world.files.MakeFolder("C:\\Program Files\\Vantrel\\Settings");
 }
 

@@ -14,6 +14,7 @@
 #include "fileutil/bmdlCookies.h"
 #include "platform/memory/Process.h"
 #include "platform/memory/RegFile.h"
+#include "platform/memory/RegistryEditor.h"
 #include "text/Strings.h"
 
 namespace vantrel::console {
@@ -83,7 +84,8 @@ void Restore(memory::FileTree& files, const std::string& path, const std::string
   files.SetAttributes(path, static_cast<unsigned char>(kept[0]));
 }
 
-// With a shell that knows the user's folders, whether they are there or not.
+// With a shell that knows the user's folders, whether they are there or not, and the registry
+// editor.
 std::unique_ptr<memory::World> EmptyWindows() {
   const std::string user = UserFolder;
   auto world = std::make_unique<memory::World>();
@@ -94,6 +96,7 @@ std::unique_ptr<memory::World> EmptyWindows() {
       {fileutil::CSIDL_COOKIES, user + "Cookies"},
       {fileutil::CSIDL_HISTORY, user + "Local Settings\\History"},
   };
+  memory::InstallRegistryEditor(*world);
   return world;
 }
 
@@ -107,6 +110,7 @@ std::unique_ptr<memory::World> FreshWindows() {
   const auto put = [&world](const std::string& path) { world->files.Put(path, "stand-in"); };
   const std::string folder = "C:\\Program Files\\Vantrel\\";
   put("C:\\WINDOWS\\notepad.exe");
+  put(memory::RegistryEditorPath);
   put("C:\\Program Files\\Internet Explorer\\iexplore.exe");
   put(memory::Process::DefaultExecutable);
   world->files.MakeFolder(folder + "Settings");

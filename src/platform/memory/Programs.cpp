@@ -10,11 +10,23 @@ namespace {
 
 constexpr const char* Blanks = " \t";
 
+bool Blank(char c) { return c == ' ' || c == '\t'; }
+
 bool HasFolder(const std::string& name) { return name.find_first_of("\\/:") != std::string::npos; }
 
 bool HasExtension(const std::string& name) {
   const std::size_t slash = name.find_last_of("\\/:");
   return name.find('.', slash == std::string::npos ? 0 : slash) != std::string::npos;
+}
+
+// Where the first word ends, which quotes may hold together.
+std::size_t EndOfWord(const std::string& commandLine) {
+  std::size_t end = 0;
+  for (bool quoted = false; end < commandLine.size(); ++end) {
+    if (commandLine[end] == '"') quoted = !quoted;
+    if (!quoted && Blank(commandLine[end])) break;
+  }
+  return end;
 }
 
 std::string ArgumentsBehind(const std::string& commandLine, std::size_t end) {
@@ -83,7 +95,8 @@ std::int32_t Programs::FindProgram(const std::string& folder, StartedProcess& pr
   const std::string& path = process.application;
   process.program = path;
   const bool inFront = process.commandLine.starts_with(path);
-  process.arguments = ArgumentsBehind(process.commandLine, inFront ? path.size() : 0);
+  process.arguments =
+      ArgumentsBehind(process.commandLine, inFront ? path.size() : EndOfWord(process.commandLine));
   if (Exists(path)) return ErrorSuccess;
   if (files_.IsFolder(path)) return ErrorAccessDenied;
   const std::size_t slash = path.find_last_of("\\/");

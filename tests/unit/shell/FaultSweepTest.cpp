@@ -10,6 +10,7 @@
 #include "unit/shell/FaultSweep.h"
 #include "windows/FrmFrameAllowList.h"
 #include "windows/FrmFrameHistory.h"
+#include "windows/FrmFrameIESettings.h"
 #include "windows/FrmFrameMain.h"
 #include "windows/FrmFrameSettings.h"
 #include "windows/frmMain.h"
@@ -35,11 +36,16 @@ void ExpectRefused(Machine& machine) {
   EXPECT_THAT(machine.world.tray.Icons(), IsEmpty());
 }
 
-// The boxes of a start: only the refresh of the counters and the list of the plug-in folder report
-// what they cannot read.
+constexpr const char* CannotMakeFolders =
+    "Sorry Could not make the directory path contact the systems administrator";
+
+// The boxes of a start: the refresh of the counters and the list of the plug-in folder report what
+// they cannot read, and the panel of the browser's settings that it cannot make its folders.
 void ExpectSilence(const Machine& machine) {
   if (machine.FailedIn(BlockLog)) {
     EXPECT_THAT(machine.BoxTexts(*machine.copy), Each("Type mismatch"));
+  } else if (machine.FailedIs("MakeSureDirectoryPathExists")) {
+    EXPECT_THAT(machine.BoxTexts(*machine.copy), ElementsAre(CannotMakeFolders));
   } else if (machine.FailedRead("\\IE Setup\\Setup") || machine.FailedIs("FolderExists ")) {
     EXPECT_THAT(machine.BoxTexts(*machine.copy), ElementsAre("Some error occured: Path not found"));
   } else if (machine.FailedIs("ListFolder ")) {
@@ -293,6 +299,100 @@ TEST(FaultSweep, OpeningTheAllowedList) {
         ExpectSitesUsable(machine);
       },
       2);
+}
+
+constexpr const char* BackupFolder = "C:\\Program Files\\Vantrel\\Settings\\IESettings\\";
+constexpr const char* BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
+
+void PressBackup(Machine& machine) {
+  EXPECT_TRUE(
+      machine.copy->user.Click(machine.copy->Windows().FrmFrameIESettings->cmdBackupIESettings));
+}
+void PressRestore(Machine& machine) {
+  EXPECT_TRUE(
+      machine.copy->user.Click(machine.copy->Windows().FrmFrameIESettings->cmdRestoreIESettings));
+}
+std::optional<std::string> BrowserVersion(const Machine& machine) {
+  return machine.world.registry.GetString(platform::HKeyLocalMachine, BrowserKey, "Version");
+}
+void OpenBackup(Machine& machine) {
+  machine.MakeStarted();
+  CaseIESettings(machine.copy->program);
+}
+
+// A box that cannot be shown leaves the rest as it is.
+std::vector<std::string> ShownOf(const Machine& machine, std::vector<std::string> boxes) {
+  if (machine.FailedIs("MessageBoxA")) {
+    std::erase_if(boxes, [&](const std::string& box) { return machine.FailedIn(box); });
+  }
+  return boxes;
+}
+
+// Behind each failure the next backup and the next restore do the whole of their work.
+void ExpectBackupUsable(Machine& machine) {
+  auto& panel = *machine.copy->Windows().FrmFrameIESettings;
+  EXPECT_TRUE(panel.Visible());
+  machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version", "7.0");
+  PressBackup(machine);
+  EXPECT_THAT(panel.txtBackup.Text(), testing::StartsWith("Last backup date was:"));
+  machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version", "8.0");
+  PressRestore(machine);
+  EXPECT_EQ(BrowserVersion(machine), "7.0");
+  EXPECT_EQ(machine.BoxTexts(*machine.copy).back(), "Saved Backups has been restored");
+  machine.copy->process.ClearBoxes();
+  machine.ExpectUsable();
+}
+
+TEST(FaultSweep, BackupOfTheBrowsersSettings) {
+  Sweep(
+      OpenBackup, PressBackup,
+      [](Machine& machine) {
+        std::vector<std::string> boxes = {"Backup has been created Successfully"};
+        const bool noPath = machine.FailedIs("MakeSureDirectoryPathExists");
+        if (noPath) boxes.insert(boxes.begin(), CannotMakeFolders);
+        EXPECT_EQ(machine.BoxTexts(*machine.copy), ShownOf(machine, boxes));
+        // One export that fails keeps the other from nothing.
+        const auto started = machine.world.programs.Started().size();
+        EXPECT_EQ(started, noPath ? 0U : machine.FailedIs("CreateProcessA") ? 1U : 2U);
+        EXPECT_EQ(machine.world.files.IsFile(BackupFolder + std::string("IE Backup date.txt")),
+                  !machine.FailedIs("WriteTextFile"));
+        ExpectBackupUsable(machine);
+      },
+      10);
+}
+
+// What the boxes of a restore end with, whichever call failed.
+std::string EndOfRestore(const Machine& machine) {
+  const bool looksForFiles = machine.FailedIs("FileExists") && !machine.FailedIn("regedit.exe");
+  if (looksForFiles) return "IE settings files not found ";
+  if (machine.FailedIs("CreateProcessA")) return "Error occured during the restore process ";
+  return "Saved Backups has been restored";
+}
+
+TEST(FaultSweep, RestoreOfTheBrowsersSettings) {
+  for (const int safetyExport : {forms::Unchecked, forms::Checked}) {
+    Sweep(
+        [safetyExport](Machine& machine) {
+          OpenBackup(machine);
+          machine.copy->Windows().FrmFrameIESettings->chktakebackup.SetValue(safetyExport);
+          PressBackup(machine);
+          machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version",
+                                           "8.0");
+        },
+        PressRestore,
+        [](Machine& machine) {
+          const bool noPath = machine.FailedIs("MakeSureDirectoryPathExists");
+          const std::string end = EndOfRestore(machine);
+          std::vector<std::string> boxes = {"Please close all the instances of Internet Explorer"};
+          if (noPath) boxes.emplace_back(CannotMakeFolders);
+          boxes.push_back(end);
+          EXPECT_EQ(machine.BoxTexts(*machine.copy), ShownOf(machine, boxes));
+          const bool restored = !noPath && end == "Saved Backups has been restored";
+          EXPECT_EQ(BrowserVersion(machine), restored ? "6.0.2900.2180" : "8.0");
+          ExpectBackupUsable(machine);
+        },
+        9);
+  }
 }
 
 }  // namespace

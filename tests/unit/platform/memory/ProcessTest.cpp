@@ -101,6 +101,17 @@ TEST_F(MemoryProcess, ApplicationInFrontOfTheCommandLine) {
   EXPECT_EQ(world_.programs.Started().at(0).arguments, "/clean");
 }
 
+TEST_F(MemoryProcess, ApplicationBesideACommandLineWithANameOfItsOwn) {
+  world_.files.Put("C:\\My Dir\\x.exe", "");
+  for (const char* name : {"x", "\"C:\\My Dir\\x.exe\"", "My\" \"Dir", "\"x\"y"}) {
+    world_.programs.ClearStarted();
+    EXPECT_EQ(Start("C:\\My Dir\\x.exe", std::string(name) + " \t-s \"a b"), 0);
+    EXPECT_EQ(world_.programs.Started().at(0).arguments, "-s \"a b") << name;
+  }
+  EXPECT_EQ(Start("C:\\My Dir\\x.exe", "x"), 0);
+  EXPECT_EQ(world_.programs.Started().at(1).arguments, "");
+}
+
 TEST_F(MemoryProcess, NamesWithoutAFolderAreFoundInWindowsFolders) {
   world_.programs.Register("C:\\Windows\\regedit.exe", nullptr);
   EXPECT_EQ(Start("", "regedit /s a.reg"), 0);
