@@ -5,12 +5,18 @@
 namespace vantrel::fileutil {
 namespace {
 
-constexpr std::size_t BlockSize = std::size_t{256} * 1024;
+constexpr std::uint64_t BlockSize = std::uint64_t{256} * 1024;
+
+// Room for what is left of a small file, and always for more than two blocks share.
+std::size_t RoomFor(const NumberedFile& file, std::uint64_t offset, std::size_t overlap) {
+  const std::uint64_t left = file.Length() - std::min(offset, file.Length());
+  return static_cast<std::size_t>(std::clamp(left, std::uint64_t{overlap} + 1, BlockSize));
+}
 
 }  // namespace
 
 BlockReader::BlockReader(NumberedFile& file, std::uint64_t offset, std::size_t overlap)
-    : file_(file), offset_(offset), overlap_(overlap), buffer_(BlockSize) {}
+    : file_(file), offset_(offset), overlap_(overlap), buffer_(RoomFor(file, offset, overlap)) {}
 
 bool BlockReader::Next() {
   const std::size_t kept = std::min(size_, overlap_);

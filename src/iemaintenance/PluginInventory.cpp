@@ -219,8 +219,8 @@ void EnumToolbarValues(Program& program, KeyHandle root, const std::string& key)
         platform::ErrorSuccess) {
       break;
     }
-    if (type == platform::RegSz || type == platform::RegBinary)
-      AddToolbar(program, name, counter++);
+    const bool isToolbar = type == platform::RegSz || type == platform::RegBinary;
+    if (isToolbar) AddToolbar(program, name, counter++);
   }
 }
 

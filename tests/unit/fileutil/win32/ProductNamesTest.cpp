@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <fstream>
-#include <iterator>
 #include <vector>
 
 #include "fileutil/modFileInfo.h"
@@ -33,8 +32,11 @@ std::vector<std::string> Libraries() {
 }
 
 std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::ifstream file(path, std::ios::binary | std::ios::ate);
+  std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
+  file.seekg(0);
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  return bytes;
 }
 
 // The name in the version resource, in its first language; empty without one.
