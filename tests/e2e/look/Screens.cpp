@@ -69,6 +69,67 @@ class SampleSites {
   const std::string kept_;
 };
 
+// Plug-ins worth a picture, for as long as the pictures are taken; the engine has a class then, as
+// one that is installed.
+class SamplePlugins {
+ public:
+  SamplePlugins() {
+    Write(HKEY_CLASSES_ROOT, EngineClass, "", Text("GBHelper Class"));
+    for (const Helper& helper : HelperObjects) {
+      CreateKey(HKEY_LOCAL_MACHINE, HelpersKey + std::string(helper.Id));
+      Write(HKEY_CLASSES_ROOT, ClassKey(helper.Id), "", Text(helper.Name));
+    }
+    for (const char* name : MenuEntries) CreateKey(HKEY_CURRENT_USER, MenuKey + std::string(name));
+    for (const Helper& button : Buttons) {
+      Write(HKEY_LOCAL_MACHINE, ButtonsKey + std::string(button.Id), "ButtonText",
+            Text(button.Name + std::string(1, '\0')));
+    }
+    for (const Helper& library : Libraries) {
+      WriteFileBytes(Folder() + library.Id,
+                     std::string("ProductName") + '\0' + library.Name + std::string(3, '\0'));
+    }
+  }
+  ~SamplePlugins() {
+    DeleteTree(HKEY_CLASSES_ROOT, EngineClass);
+    for (const Helper& helper : HelperObjects) {
+      DeleteTree(HKEY_LOCAL_MACHINE, HelpersKey + std::string(helper.Id));
+      DeleteTree(HKEY_CLASSES_ROOT, ClassKey(helper.Id));
+    }
+    for (const char* name : MenuEntries) DeleteTree(HKEY_CURRENT_USER, MenuKey + std::string(name));
+    for (const Helper& button : Buttons) {
+      DeleteTree(HKEY_LOCAL_MACHINE, ButtonsKey + std::string(button.Id));
+    }
+    for (const Helper& library : Libraries) DeleteFileA((Folder() + library.Id).c_str());
+  }
+  SamplePlugins(const SamplePlugins&) = delete;
+  SamplePlugins& operator=(const SamplePlugins&) = delete;
+
+ private:
+  struct Helper {
+    const char* Id;
+    const char* Name;
+  };
+  static constexpr Helper HelperObjects[] = {
+      {"{0A1D5E60-11AA-4C7B-9E01-5D0C7B1A0001}", "Form Filler Helper"},
+      {"{3C77B2D4-52F0-4E1C-8C55-9A7C6E2B0002}", "Shopping Companion"}};
+  static constexpr Helper Libraries[] = {{"npview.dll", "Document Viewer"},
+                                         {"npmusic.dll", "Music Box Player"}};
+  static constexpr const char* MenuEntries[] = {"&Download with Collector", "&Translate this page"};
+  static constexpr Helper Buttons[] = {{"{5F0E4A11-7C3D-47A2-B0E1-77D1C04A0003}", "Notes"},
+                                       {"{8B2C9D53-0F6E-4D88-A5C4-13A9E5F20004}", "Research"}};
+  static constexpr const char* HelpersKey =
+      "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Browser Helper Objects\\";
+  static constexpr const char* MenuKey = "SOFTWARE\\Microsoft\\Internet Explorer\\MenuExt\\";
+  static constexpr const char* ButtonsKey = "SOFTWARE\\Microsoft\\Internet Explorer\\Extensions\\";
+  static constexpr const char* EngineClass = "CLSID\\{911C4A8E-0F75-4B83-BEB9-02BDDF29D11E}";
+
+  static std::string ClassKey(const char* id) { return std::string("CLSID\\") + id; }
+  static std::string Folder() {
+    const auto path = Read(HKEY_LOCAL_MACHINE, "Software\\Microsoft\\IE Setup\\Setup", "Path");
+    return std::string(path ? path->data.c_str() : "") + "\\PLUGINS\\";
+  }
+};
+
 // A layout of which both lists of the dialog have something to show.
 class SampleLayout {
  public:
@@ -227,6 +288,7 @@ int TakeAll() {
   SeeRealPixels();
   const SampleCounts counts;
   const SampleSites sites;
+  const SamplePlugins plugins;
   const Copy copy(StartAnew(RunningProcess()));
   HWND main = copy.Find("frmMain");
   if (main == nullptr) {
