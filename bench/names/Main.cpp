@@ -1,0 +1,211 @@
+// Measures the search for product names on real files beside grep on the same bytes, in one run and
+// in turn: all libraries of a folder, and one large file without the key. Processor time and time
+// of day, medians, ratios, and what the search adds to the resident memory.
+//
+//   bench-product-names FOLDER [RUNS]
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "fileutil/modFileInfo.h"
+#include "forms/headless/Toolkit.h"
+#include "platform/memory/Process.h"
+#include "platform/memory/World.h"
+#include "program/Program.h"
+
+namespace vantrel::bench {
+namespace {
+
+// Files of the machine itself, for reading.
+class RealFiles : public platform::BinaryFiles {
+ public:
+  std::int32_t OpenFile(const std::string& path, platform::FileAccess /*access*/,
+                        platform::OpenFileHandle& opened) override {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) return platform::ErrorFileNotFound;
+    opened = static_cast<platform::OpenFileHandle>(file);
+    return platform::ErrorSuccess;
+  }
+  std::uint64_t FileLength(platform::OpenFileHandle file) override {
+    struct stat status {};
+    fstat(static_cast<int>(file), &status);
+    return static_cast<std::uint64_t>(status.st_size);
+  }
+  std::int32_t ReadAt(platform::OpenFileHandle file, std::uint64_t offset, std::span<char> buffer,
+                      std::size_t& count) override {
+    const ssize_t read =
+        pread(static_cast<int>(file), buffer.data(), buffer.size(), static_cast<off_t>(offset));
+    count = read < 0 ? 0 : static_cast<std::size_t>(read);
+    return read < 0 ? platform::ErrorAccessDenied : platform::ErrorSuccess;
+  }
+  std::int32_t WriteAt(platform::OpenFileHandle /*file*/, std::uint64_t /*offset*/,
+                       std::string_view /*bytes*/) override {
+    return platform::ErrorAccessDenied;
+  }
+  void CloseFile(platform::OpenFileHandle file) override { close(static_cast<int>(file)); }
+};
+
+platform::Platform WithFiles(const platform::Platform& windows, platform::BinaryFiles& files) {
+  return {windows.registry,
+          windows.desktop,
+          windows.shell,
+          windows.files,
+          windows.processes,
+          windows.sound,
+          windows.dialogs,
+          windows.system,
+          windows.modules,
+          windows.folders,
+          files};
+}
+
+struct Times {
+  double Processor = 0;  // milliseconds
+  double Day = 0;
+};
+
+double Milliseconds(const rusage& usage) {
+  const auto of = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) * 1000 + static_cast<double>(time.tv_usec) / 1000;
+  };
+  return of(usage.ru_utime) + of(usage.ru_stime);
+}
+
+// `who` did the act: this process or its children.
+Times Measure(int who, const std::function<void()>& act) {
+  rusage before{};
+  rusage behind{};
+  getrusage(who, &before);
+  const auto start = std::chrono::steady_clock::now();
+  act();
+  const std::chrono::duration<double, std::milli> day = std::chrono::steady_clock::now() - start;
+  getrusage(who, &behind);
+  return {Milliseconds(behind) - Milliseconds(before), day.count()};
+}
+
+long MostMemory() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
+
+double Median(const std::vector<Times>& times, double Times::*part) {
+  std::vector<double> values;
+  for (const Times& each : times) values.push_back(each.*part);
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+class Bench {
+ public:
+  explicit Bench(int runs) : runs_(runs) {}
+
+  void Compare(const char* what, const std::vector<std::string>& paths) {
+    std::string list;
+    for (const std::string& path : paths) list += path + '\0';
+    std::ofstream("/tmp/bench-product-names.list", std::ios::binary) << list;
+    std::vector<Times> own;
+    std::vector<Times> grep;
+    for (int run = 0; run < runs_; ++run) {
+      own.push_back(Measure(RUSAGE_SELF, [&] { NameAll(paths); }));
+      grep.push_back(Measure(RUSAGE_CHILDREN, [] {
+        if (std::system("xargs -0 grep -c ProductName </tmp/bench-product-names.list >/dev/null") ==
+            -1) {
+          std::abort();
+        }
+      }));
+    }
+    std::remove("/tmp/bench-product-names.list");
+    Print(what, "processor", own, grep, &Times::Processor);
+    Print(what, "time of day", own, grep, &Times::Day);
+    std::printf("%zu files, %zu named\n", paths.size(), named_);
+  }
+
+  // By how much a search of the file raises the most memory that this process has ever had.
+  void MeasureMemory(const std::string& path) {
+    const long before = MostMemory();
+    NameAll({path});
+    std::printf("resident memory: %ld KB more by a search of that file\n", MostMemory() - before);
+  }
+
+ private:
+  void NameAll(const std::vector<std::string>& paths) {
+    named_ = 0;
+    for (const std::string& path : paths) {
+      named_ += fileutil::GetProductName(program_, path).empty() ? 0 : 1;
+    }
+  }
+  static void Print(const char* what, const char* part, const std::vector<Times>& own,
+                    const std::vector<Times>& grep, double Times::*value) {
+    const double mine = Median(own, value);
+    const double plain = Median(grep, value);
+    std::printf("%-24s %-12s %9.1f ms, grep %9.1f ms, ratio %.2f\n", what, part, mine, plain,
+                mine / plain);
+  }
+
+  int runs_;
+  std::size_t named_ = 0;
+  RealFiles files_;
+  platform::memory::World world_;
+  platform::memory::Process process_{world_};
+  forms::headless::Toolkit toolkit_{world_.desktop, world_.clock, process_.Id()};
+  program::Program program_{WithFiles(process_.Platform(), files_), toolkit_};
+};
+
+std::vector<std::string> LibrariesIn(const std::string& folder) {
+  std::vector<std::string> paths;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() == ".dll") paths.push_back(entry.path().string());
+  }
+  return paths;
+}
+
+// 100 MB of the bytes of libraries, in which no key stands; piece by piece, so that this process
+// stays small.
+std::string LargeFile(const std::vector<std::string>& libraries) {
+  constexpr std::size_t Size = std::size_t{100} * 1024 * 1024;
+  const std::string path = "/tmp/bench-product-names.large";
+  std::ofstream large(path, std::ios::binary);
+  std::size_t written = 0;
+  for (std::size_t next = 0; written < Size; next = (next + 1) % libraries.size()) {
+    std::ifstream file(libraries[next], std::ios::binary);
+    std::string piece(64 * 1024, '\0');
+    while (written < Size && file.read(piece.data(), static_cast<std::streamsize>(piece.size()))) {
+      std::replace(piece.begin(), piece.end(), 'P', 'Q');
+      std::replace(piece.begin(), piece.end(), 'S', 'T');
+      large << piece;
+      written += piece.size();
+    }
+  }
+  return path;
+}
+
+}  // namespace
+}  // namespace vantrel::bench
+
+int main(int count, char** arguments) {
+  using namespace vantrel::bench;
+  if (count < 2) {
+    std::printf("bench-product-names FOLDER [RUNS]\n");
+    return 2;
+  }
+  const std::vector<std::string> libraries = LibrariesIn(arguments[1]);
+  const std::string large = LargeFile(libraries);
+  Bench bench(count > 2 ? std::atoi(arguments[2]) : 7);
+  bench.MeasureMemory(large);
+  bench.Compare("libraries", libraries);
+  bench.Compare("100 MB without the key", {large});
+  std::remove(large.c_str());
+  return 0;
+}
