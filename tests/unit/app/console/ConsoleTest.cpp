@@ -74,6 +74,13 @@ TEST(Console, ClicksByCaption) {
   EXPECT_THAT(Output("start\nclick stop\nshow cmdstart\n"), HasSubstr("\"Start\"\n"));
 }
 
+TEST(Console, TakesWhatIsInFrontOfSeveralThatFit) {
+  const std::string text = Output(
+      "start\nclick \"Ad Blocking\"\nshow Frame1\nclick LnkWelcome\nshow Frame4\nshow Frame1\n");
+  EXPECT_THAT(text, testing::ContainsRegex("frame    Frame1 \"Block Preferences\"(.|\n)*"
+                                           "frame    Frame4(.|\n)*frame    Frame1 \"\""));
+}
+
 TEST(Console, GoesOnInsideAModalWindow) {
   const std::string text =
       Output("start\nmenu Help/About\nclick Settings\nclick CmdOK\nshow lblno\n");
@@ -236,8 +243,8 @@ TEST(Console, SetsTheClock) {
   EXPECT_EQ(Output("clock 2005-12-31 23:59:58\nadvance 2000\nclock\n"),
             "2005-12-31 23:59:58\n2006-01-01 00:00:00\n");
   for (const char* time :
-       {"2005-02-30 0:0:0", "2005-02-03 24:0:0", "2005-02-03 0:60:0", "2005-02-03 0:0:-1",
-        "2005-02-03", "2005-02-03 0:0:0x", "1600-01-01 0:0:0"}) {
+       {"2005-02-30 0:0:0", "2005-02-03 24:0:0", "2005-02-03 0:60:0", "2005-02-03 0:0:60",
+        "2005-02-03 0:0:-1", "2005-02-03", "2005-02-03 0:0:0x", "1600-01-01 0:0:0"}) {
     EXPECT_EQ(Output(std::string("clock ") + time + "\n"),
               "error: there is no such time; it goes: 2004-03-15 12:00:00\n")
         << time;
