@@ -110,7 +110,7 @@ class ListView : public Control {
   void Remove(int index);
   void Clear();
 
-  // 1-based; a list that has rows has a selected row, the first until told otherwise; 0 without.
+  // 1-based; a list that has rows has a selected row, at first the first; 0 without.
   int SelectedIndex() const { return selected_; }
   ListItem* SelectedItem() const;
   void Select(int index);

@@ -81,11 +81,11 @@ void ListViewWindow::AddColumns() {
 // The first column takes what the others leave of the list's width.
 void ListViewWindow::FillWidth() {
   const auto count = static_cast<int>(list_.Columns().size());
-  int room = WidthOf(ClientArea(Handle()));
+  int rest = WidthOf(ClientArea(Handle()));
   for (int index = 1; index < count; ++index) {
-    room -= static_cast<int>(Tell(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
+    rest -= static_cast<int>(Tell(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
   }
-  if (count > 0 && room > 0) Tell(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(room, 0));
+  if (count > 0 && rest > 0) Tell(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(rest, 0));
 }
 
 void ListViewWindow::ShowColors() {

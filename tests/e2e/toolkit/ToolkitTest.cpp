@@ -674,6 +674,40 @@ std::vector<COLORREF> Painted(HWND window) {
   return pixels;
 }
 
+// The 1-based rows of a list that are painted in the colour of what is highlighted.
+std::vector<int> HighlightedRows(HWND list, int count) {
+  const std::vector<COLORREF> pixels = Painted(list);
+  RECT inside{};
+  GetClientRect(list, &inside);
+  const COLORREF highlight = Colors().Of(palette::Highlight);
+  std::vector<int> rows;
+  for (int row = 1; row <= count; ++row) {
+    RECT area{LVIR_LABEL, 0, 0, 0};
+    SendMessageA(list, LVM_GETITEMRECT, static_cast<WPARAM>(row - 1),
+                 reinterpret_cast<LPARAM>(&area));
+    const auto line = pixels.begin() + (area.top + area.bottom) / 2 * inside.right;
+    const auto painted = std::count(line + area.left, line + area.right, highlight);
+    if (painted > (area.right - area.left) / 2) rows.push_back(row);
+  }
+  return rows;
+}
+
+// The selected row's own colours are pale while the list has no focus.
+TEST_F(RealWindows, TheHighlightedRowOfAListShowsWithoutTheFocus) {
+  for (const char* text : {"First", "Second", "Third"}) form.List.Add(text, text, "");
+  form.Name.SetFocus();
+  const HWND list = HandleOf(form.List);
+  EXPECT_EQ(HighlightedRows(list, 3), std::vector<int>());
+  for (const int row : {2, 3, 1}) {
+    form.List.SetDropHighlight(row);
+    EXPECT_EQ(HighlightedRows(list, 3), std::vector<int>{row});
+    form.List.Select(row);
+    EXPECT_EQ(HighlightedRows(list, 3), std::vector<int>{row});
+  }
+  form.List.SetDropHighlight(0);
+  EXPECT_EQ(HighlightedRows(list, 3), std::vector<int>());
+}
+
 TEST_F(RealWindows, BlanksBehindAnOptionsTextAreNotMarked) {
   form.One.SetFocus();
   const std::vector<COLORREF> without = Painted(HandleOf(form.One));
