@@ -45,11 +45,9 @@ class SampleCounts {
 class SampleSites {
  public:
   SampleSites() : kept_(ReadFileBytes(Path())) {
-    WriteFileBytes(Path(), Line(1, "10000", "www.mybank.example") +
-                               Line(2, "11111", "intranet.mycompany.example") +
-                               Line(2, "10110", "www.dailynews.example") +
-                               Line(3, "00001", "games.example") +
-                               Line(3, "10100", "webmail.provider.example"));
+    WriteFileBytes(Path(),
+                   Line(1, "10000", "mybank.example") + Line(2, "11111", "intranet.example") +
+                       Line(2, "10110", "dailynews.example") + Line(3, "00001", "games.example"));
   }
   ~SampleSites() { WriteFileBytes(Path(), kept_); }
   SampleSites(const SampleSites&) = delete;
@@ -133,7 +131,7 @@ class SamplePlugins {
 // A layout of which both lists of the dialog have something to show.
 class SampleLayout {
  public:
-  SampleLayout() { Put("1,2,3,5,7,4,9,12,13,6,17,19"); }
+  SampleLayout() { Put("1,2,3,5,7,4,9,12,13,6,17"); }
   ~SampleLayout() { Put("1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19"); }
   SampleLayout(const SampleLayout&) = delete;
   SampleLayout& operator=(const SampleLayout&) = delete;
