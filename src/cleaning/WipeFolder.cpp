@@ -78,6 +78,13 @@ void KillSubFolder(Program& program, const std::string& path, const DirectoryEnt
   AdvanceForFolder(program);
 }
 
+// Whether the folder is there and still no link: messages have run since it was listed.
+bool IsFolderNow(Program& program, const std::string& path) {
+  std::vector<DirectoryEntry> itself;
+  program.platform.folders.ListFolder(path, itself);
+  return !itself.empty() && fileutil::IsSubFolder(itself.front());
+}
+
 bool HoldsNoFile(const fileutil::Listing& listing) {
   return std::none_of(
       listing.Entries.begin(), listing.Entries.end(),
@@ -104,7 +111,7 @@ bool WipeFolder(Program& program, const std::string& path) {
 
 void KillFolderTree(Program& program, const std::string& path) {
   platform::Folders& folders = program.platform.folders;
-  if (!folders.FolderExists(path)) return;
+  if (!IsFolderNow(program, path)) return;
   const std::string folder = fileutil::WithBackslash(path);
   const fileutil::Listing listing = AllEntries(program, folder);
   listing.RaiseError();

@@ -1,6 +1,7 @@
 #include "fileutil/FileSearch.h"
 
 #include <limits>
+#include <set>
 
 #include "fileutil/Listing.h"
 #include "text/RuntimeError.h"
@@ -15,20 +16,23 @@ using program::Program;
 
 constexpr std::size_t MostNotedFolders = std::numeric_limits<std::int16_t>::max();
 
-// Elements that were met before, as one text of upper-cased elements with ";" behind each. That an
-// element counts as met where it ends another one is meant.
+// Elements that were met before, in upper case. An element also counts as met where it ends another
+// one: this is meant. Elements stand there from their ends to their beginnings, so that those that
+// end alike lie together.
 class SeenElements {
  public:
   // Whether the element is new; it is noted.
   bool Add(const std::string& element) {
-    const std::string entry = text::UpperCase(element) + ';';
-    if (seen_.find(entry) != std::string::npos) return false;
-    seen_ += entry;
+    const std::string upper = text::UpperCase(element);
+    std::string reversed(upper.rbegin(), upper.rend());
+    const auto next = seen_.lower_bound(reversed);
+    if (next != seen_.end() && next->starts_with(reversed)) return false;
+    seen_.insert(next, std::move(reversed));
     return true;
   }
 
  private:
-  std::string seen_;
+  std::set<std::string> seen_;
 };
 
 std::vector<std::string> ElementsOf(const std::string& list) {
