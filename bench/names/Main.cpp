@@ -120,8 +120,8 @@ class Bench {
     for (int run = 0; run < runs_; ++run) {
       own.push_back(Measure(RUSAGE_SELF, [&] { NameAll(paths); }));
       grep.push_back(Measure(RUSAGE_CHILDREN, [] {
-        if (std::system("xargs -0 grep -c ProductName </tmp/bench-product-names.list >/dev/null") ==
-            -1) {
+        if (std::system("LC_ALL=C xargs -0 grep -c ProductName </tmp/bench-product-names.list "
+                        ">/dev/null") == -1) {
           std::abort();
         }
       }));
