@@ -167,7 +167,7 @@ TEST_F(PluginPanel, APathOfZeroBytesIsAnEmptyOne) {
 }
 
 TEST_F(PluginPanel, FilesBeyondA16BitNumberAreNotListed) {
-  constexpr int Count = 32770;
+  constexpr int Count = 32769;
   for (int file = 0; file < Count; ++file) {
     char name[20];
     std::snprintf(name, sizeof name, "%05d%s", file, file < 32766 ? ".txt" : ".dll");
