@@ -109,6 +109,15 @@ TEST_F(AllowListPanel, AddThatFailsReadsAsANameThatIsThere) {
   EXPECT_THAT(BoxTexts(), IsEmpty());
 }
 
+TEST_F(AllowListPanel, AListWhoseFolderIsGoneIsEmptyAfterTheNextAct) {
+  Open(Line(1, "a") + Line(2, "b"));
+  world.files.Remove("C:\\Program Files\\Vantrel\\Settings");
+  Add("c");
+  EXPECT_THAT(Names(), IsEmpty());
+  EXPECT_EQ(Status(), "Website already exists");
+  EXPECT_THAT(BoxTexts(), IsEmpty());
+}
+
 TEST_F(AllowListPanel, AddAndEditWithoutANameAskForOne) {
   Open(Line(1, "a"));
   for (forms::CommandButton* button : {&Panel().cmdAddWebsite, &Panel().cmdEditAllowed}) {
