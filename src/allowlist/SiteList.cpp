@@ -96,7 +96,7 @@ void ForgetSite(Program& program) {
   program.SiteFound = false;
 }
 
-// Whether the search goes on behind this record.
+// Whether the search goes on behind this record; takes its flags if not.
 bool IsOther(Program& program, const SiteFields& fields, const std::string& key) {
   const std::string name = text::Trim(fields.Fields[SiteFields::NameField]);
   if (text::LowerCase(name) != key) return true;
