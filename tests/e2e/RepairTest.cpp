@@ -1,5 +1,6 @@
 // The link "Check and Repair" of a program that lies beside doubles of its two libraries.
 #include "support/ProgramTest.h"
+#include "support/UserFolders.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -25,11 +26,7 @@ class RepairTest : public ProgramTest {
   void TearDown() override {
     ProgramTest::TearDown();
     ForgetLibraries();
-    for (const char* file : {"\\Vantrel.exe", "\\GBHelper.dll", "\\GBToolbar.dll"}) {
-      DeleteFileA((folder_ + file).c_str());
-    }
-    RemoveDirectoryA((folder_ + "\\Settings").c_str());
-    RemoveDirectoryA(folder_.c_str());
+    RemoveFolder(folder_);
   }
   static void ForgetLibraries() {
     DeleteTree(HKEY_CLASSES_ROOT, "GBHelper.HelperBHO");

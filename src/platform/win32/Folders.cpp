@@ -77,6 +77,9 @@ class FoldersAdapter : public Folders {
   }
 
   bool MakeSureDirectoryPathExists(const std::string& path) override {
+    // The system may copy the folders into a buffer of this size, whatever their length.
+    const std::size_t slash = path.rfind('\\');
+    if (slash != std::string::npos && slash + 1 >= MAX_PATH) return false;
     return ::MakeSureDirectoryPathExists(path.c_str()) != FALSE;
   }
 };

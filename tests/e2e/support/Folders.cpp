@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "support/Running.h"
+#include "support/UserFolders.h"
 
 namespace vantrel::e2e {
 
@@ -32,15 +33,7 @@ void ProgramCopy::Fill() const {
 
 ProgramCopy::~ProgramCopy() {
   EndAllCopies();
-  SetFileAttributesA(LogFile().c_str(), FILE_ATTRIBUTE_NORMAL);
-  DeleteFileA(LogFile().c_str());
-  WIN32_FIND_DATAA found{};
-  HANDLE search = FindFirstFileA((folder_ + "\\Settings\\*").c_str(), &found);
-  do {
-    DeleteFileA((folder_ + "\\Settings\\" + found.cFileName).c_str());
-  } while (FindNextFileA(search, &found) != FALSE);
-  FindClose(search);
-  RemoveDirectoryA((folder_ + "\\Settings").c_str());
+  RemoveFolder(folder_ + "\\Settings");
   DeleteFileA(Executable().c_str());
   const bool isDrive = folder_.back() == ':';
   if (!isDrive) RemoveDirectoryA(folder_.c_str());
