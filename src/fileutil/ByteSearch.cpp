@@ -13,6 +13,11 @@ std::size_t RoomFor(const NumberedFile& file, std::uint64_t offset, std::size_t 
   return static_cast<std::size_t>(std::clamp(left, std::uint64_t{overlap} + 1, BlockSize));
 }
 
+constexpr std::size_t EntryOf(char before, char last) {
+  return static_cast<std::size_t>(static_cast<unsigned char>(before)) << 2U ^
+         static_cast<unsigned char>(last);
+}
+
 }  // namespace
 
 BlockReader::BlockReader(NumberedFile& file, std::uint64_t offset, std::size_t overlap)
@@ -28,15 +33,23 @@ bool BlockReader::Next() {
   return read > 0;
 }
 
-BytePattern::BytePattern(std::string bytes)
-    : bytes_(std::move(bytes)), searcher_(bytes_.cbegin(), bytes_.cend()) {}
+BytePattern::BytePattern(std::string bytes) : bytes_(std::move(bytes)) {
+  shifts_.fill(bytes_.size() - 1);
+  // Of pairs with one entry the last one's shift, the shortest, holds.
+  for (std::size_t at = 0; at + 2 < bytes_.size(); ++at) {
+    shifts_[EntryOf(bytes_[at], bytes_[at + 1])] = bytes_.size() - 2 - at;
+  }
+}
 
 std::optional<std::size_t> BytePattern::FindIn(std::string_view text, std::size_t from) const {
-  if (from > text.size()) return std::nullopt;
-  const auto found =
-      std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), searcher_);
-  if (found == text.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - text.begin());
+  const std::size_t size = bytes_.size();
+  for (std::size_t at = from; at + size <= text.size();) {
+    const char before = text[at + size - 2];
+    const char last = text[at + size - 1];
+    if (last == bytes_.back() && text.compare(at, size, bytes_) == 0) return at;
+    at += shifts_[EntryOf(before, last)];
+  }
+  return std::nullopt;
 }
 
 std::optional<std::uint64_t> FindInFile(NumberedFile& file, const BytePattern& pattern,

@@ -2,8 +2,8 @@
 #ifndef VANTREL_FILEUTIL_BYTESEARCH_H_
 #define VANTREL_FILEUTIL_BYTESEARCH_H_
 
+#include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -32,7 +32,7 @@ class BlockReader {
   std::vector<char> buffer_;
 };
 
-// A byte sequence, prepared for being looked for often. It must outlive no text: it owns its own.
+// A sequence of two or more bytes, prepared for being looked for often. It owns its bytes.
 class BytePattern {
  public:
   explicit BytePattern(std::string bytes);
@@ -45,7 +45,9 @@ class BytePattern {
 
  private:
   std::string bytes_;
-  std::boyer_moore_horspool_searcher<std::string::const_iterator> searcher_;
+  // By how much the sequence can be moved on behind a place that ends in two bytes, by a number
+  // made of both: Horspool's search on pairs, since every second byte of 16-bit text is zero.
+  std::array<std::size_t, 1024> shifts_{};
 };
 
 // The offset of the first occurrence at or behind `from`.

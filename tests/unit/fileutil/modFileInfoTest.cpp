@@ -1,6 +1,7 @@
 // The product name of a library, by its bytes, beside a plain transcription of the search.
 #include <gmock/gmock.h>
 
+#include <cstring>
 #include <random>
 
 #include "fileutil/modFileInfo.h"
@@ -149,6 +150,51 @@ TEST_F(ProductName, AVersionCutAnywhereGivesThePlainSearchsName) {
       "MZ"s + LandmarkBytes + Entry("ProductName", "Bar") + Entry("ProductVersion", "1") + "\0\0"s;
   for (std::size_t length = 0; length <= whole.size(); ++length) NameIn(whole.substr(0, length));
   EXPECT_EQ(NameIn(whole), "Bar");
+}
+
+// A file of zeros with a tail, as a sparse file has it; its bytes are made when they are read.
+class SparseFile : public platform::BinaryFiles {
+ public:
+  SparseFile(std::uint64_t zeros, std::string tail) : zeros_(zeros), tail_(std::move(tail)) {}
+
+  std::int32_t OpenFile(const std::string& /*path*/, platform::FileAccess /*access*/,
+                        platform::OpenFileHandle& opened) override {
+    opened = 1;
+    return platform::ErrorSuccess;
+  }
+  std::uint64_t FileLength(platform::OpenFileHandle /*file*/) override {
+    return zeros_ + tail_.size();
+  }
+  std::int32_t ReadAt(platform::OpenFileHandle file, std::uint64_t offset, std::span<char> buffer,
+                      std::size_t& count) override {
+    const std::uint64_t left = FileLength(file) - std::min(offset, FileLength(file));
+    count = static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), left));
+    std::memset(buffer.data(), 0, count);
+    const std::uint64_t end = offset + count;
+    for (std::uint64_t at = std::max(offset, zeros_); at < end; ++at) {
+      buffer[static_cast<std::size_t>(at - offset)] = tail_[static_cast<std::size_t>(at - zeros_)];
+    }
+    return platform::ErrorSuccess;
+  }
+  std::int32_t WriteAt(platform::OpenFileHandle /*file*/, std::uint64_t /*offset*/,
+                       std::string_view /*bytes*/) override {
+    return platform::ErrorAccessDenied;
+  }
+  void CloseFile(platform::OpenFileHandle /*file*/) override {}
+
+ private:
+  std::uint64_t zeros_;
+  std::string tail_;
+};
+
+TEST_F(ProductName, OfAFileBeyond4GigabytesIsFoundAtItsEnd) {
+  SparseFile file(std::uint64_t{1} << 32U, "ProductName\0Far Bar\0\0\0"s);
+  const platform::Platform whole = process.Platform();
+  program::Program other(
+      {whole.registry, whole.desktop, whole.shell, whole.files, whole.processes, whole.sound,
+       whole.dialogs, whole.system, whole.modules, whole.folders, file},
+      toolkit);
+  EXPECT_EQ(GetProductName(other, Path), "Far Bar");
 }
 
 // The sequences lie across the borders of the blocks in which the file is read.
