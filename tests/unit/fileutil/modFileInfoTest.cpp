@@ -152,7 +152,7 @@ TEST_F(ProductName, AVersionCutAnywhereGivesThePlainSearchsName) {
   EXPECT_EQ(NameIn(whole), "Bar");
 }
 
-// A file of zeros with a tail, as a sparse file has it; its bytes are made when they are read.
+// A file of zeros with a tail, as a sparse file has them; its bytes are made when they are read.
 class SparseFile : public platform::BinaryFiles {
  public:
   SparseFile(std::uint64_t zeros, std::string tail) : zeros_(zeros), tail_(std::move(tail)) {}
