@@ -231,6 +231,15 @@ TEST_F(Backup, TheDateIsThatOfTheClickHoweverLongTheExportsTake) {
   EXPECT_EQ(Panel().txtBackup.Text(), "Last backup date was: 3/15/2004\r\nAt time: 9:05 AM");
 }
 
+TEST_F(Backup, ABackupJoinsTheDateFileWithAForwardSlash) {
+  const std::string path = '"' + Default + "/IE Backup date.txt\"";
+  CallsOf([&] { PressBackup(); });
+  EXPECT_THAT(process.Trace().LinesOf("WriteTextFile"),
+              ElementsAre(StartsWith("WriteTextFile " + path)));
+  EXPECT_THAT(process.Trace().LinesOf("ReadTextFile"),
+              ElementsAre(StartsWith("ReadTextFile " + path)));
+}
+
 TEST_F(Backup, TheDateFileIsMadeAnew) {
   world.files.Put(DateFile, std::string(1000, 'x'));
   PressBackup();
