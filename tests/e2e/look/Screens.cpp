@@ -2,6 +2,9 @@
 // "shot NAME" or "shot NAME X Y WIDTH HEIGHT" asks for it, and a line of answer says it is taken.
 #include <windows.h>
 
+// After windows.h.
+#include <commctrl.h>
+
 #include <cstdio>
 #include <string>
 
@@ -10,6 +13,7 @@
 #include "support/Folders.h"
 #include "support/RegistryView.h"
 #include "support/Running.h"
+#include "support/UserFolders.h"
 #include "support/Wait.h"
 
 namespace vantrel::e2e {
@@ -143,6 +147,48 @@ class SampleLayout {
   }
 };
 
+// Traces worth a picture, in folders of the pictures' own: nothing else is cleaned.
+class SampleTraces {
+ public:
+  SampleTraces() {
+    for (int number = 0; number < 90; ++number) {
+      PutFile(folders_.History + "\\visit" + std::to_string(number), std::string(60000, 'v'));
+    }
+    PutFile(folders_.Internet + "\\Content.IE5\\ABCD\\movie[1]", std::string(1234567, 'm'));
+    PutFile(folders_.Recent + "\\letter.lnk", std::string(1800, 'l'));
+    PutFile(folders_.Temporary + "\\setup.log", std::string(33000, 's'));
+    for (const char* name : {"me@dailynews[1].txt", "me@mybank[2].txt", "me@shop[1].txt"}) {
+      PutFile(folders_.Cookies + "\\" + name, std::string(700, 'c'));
+    }
+    PutFile(folders_.Data + "\\Mozilla\\Profiles\\default\\k3x1.slt\\cookies.txt",
+            Line(".dailynews.example") + Line(".shop.example") + Line(".ads.example"));
+    PutFile(folders_.Data + "\\Opera\\profile\\cookies4.dat", std::string(5000, 'o'));
+    Install("Netscp.exe");
+    Install("Opera.exe");
+  }
+  ~SampleTraces() {
+    for (const char* name : {"Netscp.exe", "Opera.exe"}) {
+      DeleteTree(HKEY_LOCAL_MACHINE, std::string(AppPaths) + name);
+    }
+  }
+  SampleTraces(const SampleTraces&) = delete;
+  SampleTraces& operator=(const SampleTraces&) = delete;
+
+ private:
+  static constexpr const char* AppPaths =
+      "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
+
+  static std::string Line(const std::string& host) {
+    return host + "\tTRUE\t/\tFALSE\t0\ta\tb\r\n";
+  }
+  void Install(const char* name) const {
+    Write(HKEY_LOCAL_MACHINE, std::string(AppPaths) + name, "Path",
+          Text(folders_.Data + "\\Opera" + '\0'));
+  }
+
+  const UserFolders folders_;
+};
+
 // Ends the copy as its menu does and starts it anew; the chart is drawn at the start alone.
 DWORD StartAnew(DWORD processId) {
   const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, processId);
@@ -202,6 +248,56 @@ void ShootPanels(const Copy& copy, HWND main) {
     Shoot(screen.Name, main);
     Shoot(std::string("panel-") + screen.Name, copy.Find(screen.Panel));
   }
+}
+
+bool WaitForStatus(const Copy& copy, const char* text) {
+  return WaitFor(
+      [&] { return WindowTextOf(copy.Find("FrmFrameHistory.lblcleaningstatus")) == text; });
+}
+
+// The middle of a run: a modal window holds it, and is moved out of the picture.
+void ShootRun(const Copy& copy, HWND panel) {
+  for (const char* box : {"chkCacheHURL", "chkWindowsRunHistory", "chkWindowsFindHistory",
+                          "chkWindowsRecDoc", "chkWindowsRB"}) {
+    copy.Click(std::string("FrmFrameHistory.") + box);
+  }
+  PostMessageA(copy.Find("FrmFrameHistory.CmdDeleteCache"), BM_CLICK, 0, 0);
+  constexpr LRESULT Middle = 40;
+  WaitFor(
+      [&] {
+        return SendMessageA(copy.Find("FrmFrameHistory.pbarCache"), PBM_GETPOS, 0, 0) >= Middle;
+      },
+      5000);
+  copy.Choose("submnuAbout");
+  HWND dialog = nullptr;
+  WaitFor([&] { return (dialog = copy.Find("FrmAbout")) != nullptr && IsWindowVisible(dialog); });
+  SetWindowPos(dialog, nullptr, 1200, 980, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  copy.Settle();
+  Shoot("clean-run", panel);
+  PostMessageA(dialog, WM_CLOSE, 0, 0);
+  if (!WaitForStatus(copy, "Done")) Missing("clean-done");
+  copy.Settle();
+  Shoot("clean-done", panel);
+}
+
+// The panel with its sizes, in the middle of a run and behind it, and each browser's cookies.
+void ShootCleaning(const Copy& copy) {
+  const SampleTraces traces;
+  copy.Open(Panels[5]);
+  HWND panel = copy.Find("FrmFrameHistory");
+  SendMessageA(copy.Find("FrmFrameHistory.lblcleaningstatus"), WM_SETTEXT, 0,
+               reinterpret_cast<LPARAM>("not yet"));
+  copy.MouseClick("FrmFrameHistory.lblRefresh");
+  if (!WaitForStatus(copy, "Ready to clean")) Missing("clean-sizes");
+  copy.Settle();
+  Shoot("clean-sizes", panel);
+  for (const char* option : {"Netscape", "Opera"}) {
+    copy.Click(std::string("FrmFrameHistory.opt") + option);
+    copy.Settle();
+    Shoot(std::string("clean-") + option, panel);
+  }
+  copy.Click("FrmFrameHistory.optIE");
+  ShootRun(copy, panel);
 }
 
 void ShootHelp(const Copy& copy, HWND main) {
@@ -294,6 +390,7 @@ int TakeAll() {
     return 1;
   }
   ShootPanels(copy, main);
+  ShootCleaning(copy);
   ShootHelp(copy, main);
   copy.Open(Panels[0]);
   ShootDialogs(copy);
