@@ -71,6 +71,21 @@ class SampleSites {
   const std::string kept_;
 };
 
+// A backup worth a picture, for as long as the pictures are taken.
+class SampleBackup {
+ public:
+  SampleBackup() { PutFile(Path(), "Last backup date was: 11/21/2026\r\nAt time: 6:40 PM\r\n"); }
+  ~SampleBackup() { DeleteFileA(Path().c_str()); }
+  SampleBackup(const SampleBackup&) = delete;
+  SampleBackup& operator=(const SampleBackup&) = delete;
+
+ private:
+  static std::string Path() {
+    const std::string program = ExecutablePath();
+    return program.substr(0, program.rfind('\\')) + "\\Settings\\IESettings\\IE Backup date.txt";
+  }
+};
+
 // Plug-ins worth a picture, for as long as the pictures are taken; the engine has a class then, as
 // one that is installed.
 class SamplePlugins {
@@ -382,6 +397,7 @@ int TakeAll() {
   SeeRealPixels();
   const SampleCounts counts;
   const SampleSites sites;
+  const SampleBackup backup;
   const SamplePlugins plugins;
   const Copy copy(StartAnew(RunningProcess()));
   HWND main = copy.Find("frmMain");
