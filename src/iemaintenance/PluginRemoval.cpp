@@ -85,13 +85,17 @@ void RemoveRow(Program& program, const Removal& removal, const std::string& name
   if (answer == platform::AnswerYes) removal.Remove(program, tag);
 }
 
-// The row is copied: messages run while a box is up, and may fill the list anew.
+// What is read of a row. It is a copy: messages run while a box is up, and may fill the list anew.
+struct CheckedRow {
+  std::string Type;
+  std::string Name;
+  std::string Tag;
+};
+
 void RemoveChecked(Program& program, const forms::ListItem& item) {
-  const std::string type = item.Sub(1).Text;
-  const std::string name = item.Text();
-  const std::string tag = item.Tag();
+  const CheckedRow row{item.Sub(1).Text, item.Text(), item.Tag()};
   for (const Removal& removal : Removals) {
-    if (type == removal.Type) return RemoveRow(program, removal, name, tag);
+    if (row.Type == removal.Type) return RemoveRow(program, removal, row.Name, row.Tag);
   }
 }
 
