@@ -256,6 +256,12 @@ void ShootWhenThere(const char* name, Find find) {
   Shoot(name, window);
 }
 
+// The pictures are kept in the help and the README: none shows a path of the machine that takes
+// them.
+void SetPath(const Copy& copy, const char* box, const char* path) {
+  SendMessageA(copy.Find(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path));
+}
+
 // The whole window, and the panel alone for the help pages.
 void ShootPanels(const Copy& copy, HWND main) {
   for (const Screen& screen : Panels) {
@@ -304,6 +310,7 @@ void ShootCleaning(const Copy& copy) {
                reinterpret_cast<LPARAM>("not yet"));
   copy.MouseClick("FrmFrameHistory.lblRefresh");
   if (!WaitForStatus(copy, "Ready to clean")) Missing("clean-sizes");
+  SetPath(copy, "FrmFrameHistory.txtcookies", "C:\\Documents and Settings\\Me\\Cookies");
   copy.Settle();
   Shoot("clean-sizes", panel);
   for (const char* option : {"Netscape", "Opera"}) {
@@ -405,6 +412,8 @@ int TakeAll() {
     std::printf("no copy runs\n");
     return 1;
   }
+  SetPath(copy, "FrmFrameIESettings.txtIESettings",
+          "C:\\Program Files\\Vantrel\\Settings\\IESettings");
   ShootPanels(copy, main);
   ShootCleaning(copy);
   ShootHelp(copy, main);
