@@ -68,17 +68,15 @@ class Picker {
   }
 
  private:
+  static BOOL CALLBACK TakeTree(HWND child, LPARAM found) {
+    if (ClassOf(child) != WC_TREEVIEWA) return TRUE;
+    *reinterpret_cast<HWND*>(found) = child;
+    return FALSE;
+  }
   static BOOL CALLBACK Take(HWND window, LPARAM parameter) {
     auto& picker = *reinterpret_cast<Picker*>(parameter);
     if (ClassOf(window) != "#32770" || !IsWindowVisible(window)) return TRUE;
-    EnumChildWindows(
-        window,
-        [](HWND child, LPARAM found) -> BOOL {
-          if (ClassOf(child) != WC_TREEVIEWA) return TRUE;
-          *reinterpret_cast<HWND*>(found) = child;
-          return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&picker.tree_));
+    EnumChildWindows(window, TakeTree, reinterpret_cast<LPARAM>(&picker.tree_));
     picker.window_ = window;
     return FALSE;
   }
