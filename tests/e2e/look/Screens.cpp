@@ -266,6 +266,10 @@ void SetPath(const Copy& copy, const char* box, const char* path) {
 void ShootPanels(const Copy& copy, HWND main) {
   for (const Screen& screen : Panels) {
     if (!copy.Open(screen)) Missing(screen.Panel);
+    // Not before its panel has been shown: its window is made then.
+    SetPath(copy, "FrmFrameIESettings.txtIESettings",
+            "C:\\Program Files\\Vantrel\\Settings\\IESettings");
+    copy.Settle();
     Shoot(screen.Name, main);
     Shoot(std::string("panel-") + screen.Name, copy.Find(screen.Panel));
   }
@@ -412,8 +416,6 @@ int TakeAll() {
     std::printf("no copy runs\n");
     return 1;
   }
-  SetPath(copy, "FrmFrameIESettings.txtIESettings",
-          "C:\\Program Files\\Vantrel\\Settings\\IESettings");
   ShootPanels(copy, main);
   ShootCleaning(copy);
   ShootHelp(copy, main);
