@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "support/BackupTexts.h"
 #include "support/Folders.h"
 #include "support/ProgramTest.h"
 #include "support/RecordedBrowser.h"
@@ -15,14 +16,13 @@
 namespace vantrel::e2e {
 namespace {
 
-constexpr const char* CannotMake =
-    "Sorry Could not make the directory path contact the systems administrator";
-constexpr const char* Created = "Backup has been created Successfully";
-constexpr const char* PleaseClose = "Please close all the instances of Internet Explorer";
-constexpr const char* NotFound = "IE settings files not found ";
-constexpr const char* Restored = "Saved Backups has been restored";
-constexpr const char* RestoreError = "Error occured during the restore process ";
-constexpr const char* None = "Last Backup: None";
+using test::CannotMake;
+using test::Created;
+using test::None;
+using test::NotFound;
+using test::PleaseClose;
+using test::Restored;
+using test::RestoreError;
 
 constexpr const char* UserKey = "\"HKCU\\Software\\Microsoft\\Internet Explorer\"";
 constexpr const char* MachineKey = "\"HKLM\\SOFTWARE\\Microsoft\\Internet Explorer\"";

@@ -102,6 +102,12 @@ class CleanTest : public CleanPanelTest {
     memory.ReadInto(text.data(), text.size());
     return text;
   }
+  // The panel with its sizes, and with these boxes alone set.
+  static void Prepare(const Running& program, std::initializer_list<const char*> boxes) {
+    Open(program);
+    Refresh(program);
+    Select(program, boxes);
+  }
   // Presses Delete and waits for the two texts that every run ends with.
   static void Delete(const Running& program) {
     ASSERT_TRUE(program.Click(Control("CmdDeleteCache")));
@@ -176,9 +182,7 @@ TEST_F(CleanTest, OnlyFilesAtTheTopAreOverwritten) {
   const std::string hidden = folders_.Watch(folders_.Temporary + "\\hidden");
   const std::string below = folders_.Watch(folders_.History + "\\below\\b");
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory", "chkCachetemp"});
+  Prepare(program, {"chkCacheHistory", "chkCachetemp"});
   Delete(program);
   EXPECT_EQ(ReadFileBytes(small).size(), 701U);
   EXPECT_EQ(ReadFileBytes(small).find('a', 1), std::string::npos);
@@ -199,9 +203,7 @@ TEST_F(CleanTest, InFoldersBelowHiddenAndReadOnlyFilesStay) {
   PutFile(folders_.Recent + "\\sub\\readonly");
   SetFileAttributesA((folders_.Recent + "\\sub\\readonly").c_str(), FILE_ATTRIBUTE_READONLY);
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheRecent", "chkCachetemp"});
+  Prepare(program, {"chkCacheRecent", "chkCachetemp"});
   Delete(program);
   EXPECT_EQ(NamesIn(folders_.Temporary), std::vector<std::string>{"sub"});
   EXPECT_EQ(NamesIn(folders_.Temporary + "\\sub"), std::vector<std::string>{"hidden"});
@@ -279,9 +281,7 @@ TEST_F(CleanTest, ALockedIndexStaysAndTheRunEndsNormally) {
   PlantAll();
   const std::string index = folders_.Internet + "\\Content.IE5\\index.dat";
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheInternet"});
+  Prepare(program, {"chkCacheInternet"});
   {
     const Lock lock(index);
     Delete(program);
@@ -300,9 +300,7 @@ TEST_F(CleanTest, MoreThanTheBarHoldsGoesToo) {
     PutFile(folders_.History + "\\d" + std::to_string(number) + "\\f");
   }
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory"});
+  Prepare(program, {"chkCacheHistory"});
   Delete(program);
   EXPECT_EQ(NamesIn(folders_.History), std::vector<std::string>{});
 }
@@ -371,9 +369,7 @@ TEST_F(CleanTest, AFolderThatVanishesBetweenScanAndRunIsPassedOver) {
 TEST_F(CleanTest, ASecondPressStartsANestedRunAndTheProgramCanBeEndedInTheMiddle) {
   PutFile(folders_.History + "\\first");
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory", "chkCacheHURL"});
+  Prepare(program, {"chkCacheHistory", "chkCacheHURL"});
   {
     const Held held(program);
     program.ClickAndLeave(Control("CmdDeleteCache"));
@@ -389,9 +385,7 @@ TEST_F(CleanTest, TheEndOfTheProgramInTheMiddleLeavesTheRest) {
   PutFile(folders_.History + "\\first");
   PutFile(folders_.Recent + "\\kept");
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory", "chkCacheHURL", "chkCacheRecent"});
+  Prepare(program, {"chkCacheHistory", "chkCacheHURL", "chkCacheRecent"});
   {
     const Held held(program);
     program.ClickAndLeave(Control("CmdDeleteCache"));
@@ -406,9 +400,7 @@ TEST_F(CleanTest, TheEndOfTheProgramInTheMiddleLeavesTheRest) {
 TEST_F(CleanTest, ATickInTheMiddleOfARunCounts) {
   PutFile(folders_.History + "\\first");
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory", "chkCacheHURL"});
+  Prepare(program, {"chkCacheHistory", "chkCacheHURL"});
   {
     const Held held(program);
     program.ClickAndLeave(Control("CmdDeleteCache"));
@@ -425,9 +417,7 @@ TEST_F(CleanTest, ManyPressesAtOnceAllEnd) {
     PutFile(folders_.Temporary + "\\d" + std::to_string(number) + "\\f");
   }
   const Running program;
-  Open(program);
-  Refresh(program);
-  Select(program, {"chkCacheHistory", "chkCachetemp"});
+  Prepare(program, {"chkCacheHistory", "chkCachetemp"});
   {
     const Held held(program);
     for (int press = 0; press < 5; ++press) program.ClickAndLeave(Control("CmdDeleteCache"));

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "support/Folders.h"
+#include "support/HangingLibrary.h"
 #include "support/KeptValue.h"
 #include "support/OwnersMemory.h"
 #include "support/ProgramTest.h"
@@ -325,22 +326,14 @@ TEST_F(PluginsTest, WhatCannotBeRemovedIsThereAgain) {
 TEST_F(PluginsTest, ALibraryThatHangsTakesTheWindowsWithItAndTheProcessWaitsForIt) {
   PutLibrary("companion-hanging.dll", "a.dll");
   const std::string library = ReadFileBytes(Path("a.dll"));
-  HANDLE go = CreateEventA(nullptr, TRUE, FALSE, "VantrelHangingCompanion");
-  {
-    Running program;
-    Open(program);
-    ExpectRows(program, {"Hanging|Plugins"});
-    Check(program, 1);
-    Delete(program);
-    AnswerQuestion(program, "Delete selected Plug-ins:Hanging");
-    // Ten seconds of patience, and as many for a slow machine.
-    EXPECT_TRUE(WaitFor([&] { return program.Find("frmMain") == nullptr; }, 20000));
-    EXPECT_TRUE(program.Alive());
-    EXPECT_EQ(program.BoxCount(), 0U);
-    SetEvent(go);
-    EXPECT_TRUE(program.WaitForExit());
-  }
-  CloseHandle(go);
+  const HangingLibrary hanging;
+  Running program;
+  Open(program);
+  ExpectRows(program, {"Hanging|Plugins"});
+  Check(program, 1);
+  Delete(program);
+  AnswerQuestion(program, "Delete selected Plug-ins:Hanging");
+  hanging.ExpectToTakeTheWindows(program);
   EXPECT_EQ(ReadFileBytes(Path("a.dll")), library);
 }
 

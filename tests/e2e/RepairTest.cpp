@@ -1,4 +1,5 @@
 // The link "Check and Repair" of a program that lies beside doubles of its two libraries.
+#include "support/HangingLibrary.h"
 #include "support/ProgramTest.h"
 #include "support/UserFolders.h"
 
@@ -103,19 +104,11 @@ TEST_F(RepairTest, OnlyEmptinessIsARepairsReason) {
 TEST_F(RepairTest, ALibraryThatHangsTakesTheWindowsWithItAndTheProcessWaitsForIt) {
   PutLibrary("companion-hanging.dll", "GBHelper.dll");
   PutLibrary("companion-toolbar.dll", "GBToolbar.dll");
-  HANDLE go = CreateEventA(nullptr, TRUE, FALSE, "VantrelHangingCompanion");
-  {
-    Running program("", Executable());
-    ASSERT_TRUE(program.WaitUntilIdle());
-    program.MouseClick("frmMain.lnkCheckAndRepair");
-    // Ten seconds of patience, and as many for a slow machine.
-    EXPECT_TRUE(WaitFor([&] { return program.Find("frmMain") == nullptr; }, 20000));
-    EXPECT_TRUE(program.Alive());
-    EXPECT_EQ(program.BoxCount(), 0U);
-    SetEvent(go);
-    EXPECT_TRUE(program.WaitForExit());
-  }
-  CloseHandle(go);
+  const HangingLibrary library;
+  Running program("", Executable());
+  ASSERT_TRUE(program.WaitUntilIdle());
+  program.MouseClick("frmMain.lnkCheckAndRepair");
+  library.ExpectToTakeTheWindows(program);
   EXPECT_FALSE(KeyExists(HKEY_CLASSES_ROOT, "Grimbolt.Toolbar"));
 }
 

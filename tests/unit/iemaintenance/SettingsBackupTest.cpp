@@ -8,6 +8,7 @@
 #include "iemaintenance/Attach.h"
 #include "iemaintenance/SettingsBackup.h"
 #include "platform/memory/RegFile.h"
+#include "support/BackupTexts.h"
 #include "support/ComponentFixture.h"
 #include "windows/frmMain.h"
 
@@ -16,6 +17,13 @@ namespace {
 
 using platform::HKeyCurrentUser;
 using platform::HKeyLocalMachine;
+using test::CannotMake;
+using test::Created;
+using test::None;
+using test::NotFound;
+using test::PleaseClose;
+using test::Restored;
+using test::RestoreError;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -31,15 +39,6 @@ const std::string MachineTail =
     MachineFile + "\" \"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Internet Explorer";
 const std::string UserKey = "Software\\Microsoft\\Internet Explorer";
 const std::string MachineKey = "SOFTWARE\\Microsoft\\Internet Explorer";
-
-constexpr const char* CannotMake =
-    "Sorry Could not make the directory path contact the systems administrator";
-constexpr const char* Created = "Backup has been created Successfully";
-constexpr const char* PleaseClose = "Please close all the instances of Internet Explorer";
-constexpr const char* NotFound = "IE settings files not found ";
-constexpr const char* Restored = "Saved Backups has been restored";
-constexpr const char* RestoreError = "Error occured during the restore process ";
-constexpr const char* None = "Last Backup: None";
 
 using Box = std::tuple<std::string, std::string, std::uint32_t>;
 
