@@ -2,9 +2,6 @@
 // the system's registry editor and with a program in its place that records how it was started.
 #include <windows.h>
 
-// After windows.h.
-#include <tlhelp32.h>
-
 #include <algorithm>
 
 #include "support/BackupTexts.h"
@@ -55,18 +52,7 @@ class OtherEditor {
   static std::string Kept() { return WindowsFolder() + "\\regedit.kept"; }
 };
 
-bool EditorRuns() {
-  HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
-  PROCESSENTRY32 entry{};
-  entry.dwSize = sizeof(entry);
-  bool runs = false;
-  for (BOOL more = Process32First(snapshot, &entry); more != FALSE && !runs;
-       more = Process32Next(snapshot, &entry)) {
-    runs = lstrcmpiA(entry.szExeFile, "regedit.exe") == 0;
-  }
-  CloseHandle(snapshot);
-  return runs;
-}
+bool EditorRuns() { return !ProcessesOf("regedit.exe").empty(); }
 
 // What reg.exe prints; its end is waited for.
 std::string Reg(const std::string& arguments) {

@@ -16,18 +16,8 @@ class TrayTest : public ProgramTest {
     ASSERT_TRUE(tray.InPlace()) << "another window takes the calls for icons";
   }
 
-  // The pop-up menu that the program shows now.
-  static HWND OpenMenu(const Running& program) {
-    HWND menu = nullptr;
-    while ((menu = FindWindowExA(nullptr, menu, "#32768", nullptr)) != nullptr) {
-      DWORD owner = 0;
-      GetWindowThreadProcessId(menu, &owner);
-      if (owner == program.ProcessId() && IsWindowVisible(menu) != FALSE) return menu;
-    }
-    return nullptr;
-  }
   static bool WaitForMenu(const Running& program, bool open) {
-    return WaitFor([&] { return (OpenMenu(program) != nullptr) == open; });
+    return WaitFor([&] { return (program.OpenMenu() != nullptr) == open; });
   }
   static void HideMain(const Running& program) {
     program.ChooseMenu("MnuHide");
@@ -168,7 +158,7 @@ TEST_F(TrayTest, OtherMouseCodesDoNothing) {
   program.ChooseMenu("MnuStop");
   ASSERT_TRUE(WaitFor([&] { return program.IsEnabled("FrmFrameMain.cmdstart"); }));
   EXPECT_FALSE(program.IsVisible("frmMain"));
-  EXPECT_EQ(OpenMenu(program), nullptr);
+  EXPECT_EQ(program.OpenMenu(), nullptr);
 }
 
 TEST_F(TrayTest, ARightClickShowsTheWelcomePanelAndTheMenuAndLeavesTheWindowHidden) {

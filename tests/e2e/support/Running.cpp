@@ -179,13 +179,21 @@ HWND Running::Find(const std::string& controlName) const {
   return found;
 }
 
-std::vector<std::pair<std::string, HWND>> Running::Named() const {
-  std::vector<std::pair<std::string, HWND>> named;
+std::vector<HWND> Running::AllWindows() const {
+  std::vector<HWND> windows;
   ForEachWindow(ProcessId(), [&](HWND window) {
-    const std::string name = ControlNameOf(window);
-    if (!name.empty()) named.emplace_back(name, window);
+    windows.push_back(window);
     return true;
   });
+  return windows;
+}
+
+std::vector<std::pair<std::string, HWND>> Running::Named() const {
+  std::vector<std::pair<std::string, HWND>> named;
+  for (HWND window : AllWindows()) {
+    const std::string name = ControlNameOf(window);
+    if (!name.empty()) named.emplace_back(name, window);
+  }
   return named;
 }
 
@@ -350,20 +358,39 @@ bool Running::Answer(const Box& box, int button) const {
   return WaitFor([&] { return IsWindow(box.window) == FALSE; });
 }
 
-void EndAllCopies() {
+HWND Running::OpenMenu() const {
+  HWND menu = nullptr;
+  while ((menu = FindWindowExA(nullptr, menu, "#32768", nullptr)) != nullptr) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(menu, &owner);
+    if (owner == ProcessId() && IsWindowVisible(menu) != FALSE) return menu;
+  }
+  return nullptr;
+}
+
+std::vector<DWORD> ProcessesOf(const std::string& executable) {
+  std::vector<DWORD> processes;
   HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
   PROCESSENTRY32 entry{};
   entry.dwSize = sizeof(entry);
   for (BOOL more = Process32First(snapshot, &entry); more != FALSE;
        more = Process32Next(snapshot, &entry)) {
-    if (lstrcmpiA(entry.szExeFile, "Vantrel.exe") != 0) continue;
-    HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, entry.th32ProcessID);
+    if (lstrcmpiA(entry.szExeFile, executable.c_str()) == 0) {
+      processes.push_back(entry.th32ProcessID);
+    }
+  }
+  CloseHandle(snapshot);
+  return processes;
+}
+
+void EndAllCopies() {
+  for (const DWORD copy : ProcessesOf("Vantrel.exe")) {
+    HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, copy);
     if (process == nullptr) continue;
     TerminateProcess(process, 98);
     WaitForSingleObject(process, AnswerBound);
     CloseHandle(process);
   }
-  CloseHandle(snapshot);
 }
 
 }  // namespace vantrel::e2e

@@ -47,7 +47,9 @@ class Running {
 
   // The window or control with this "ControlName", nullptr if there is none.
   HWND Find(const std::string& controlName) const;
-  // All of them with their names, for messages and sweeps.
+  // All windows of the program, also those within the system's controls.
+  std::vector<HWND> AllWindows() const;
+  // Those with names, for messages and sweeps.
   std::vector<std::pair<std::string, HWND>> Named() const;
 
   std::string TextOf(const std::string& controlName) const;
@@ -93,6 +95,9 @@ class Running {
   // Presses the box's button and waits until the box is gone.
   bool Answer(const Box& box, int button = IDOK) const;
 
+  // The menu that is open, nullptr if none is.
+  HWND OpenMenu() const;
+
  private:
   std::string Hindrance() const;
 
@@ -108,6 +113,8 @@ std::string WindowTextOf(HWND window);
 // The class of a window.
 std::string ClassOf(HWND window);
 
+// The processes that run from a file of this name.
+std::vector<DWORD> ProcessesOf(const std::string& executable);
 // Ends every running copy; for sweeping before a case.
 void EndAllCopies();
 
