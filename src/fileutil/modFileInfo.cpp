@@ -1,6 +1,7 @@
 #include "fileutil/modFileInfo.h"
 
 #include <algorithm>
+#include <new>
 
 #include "fileutil/ByteSearch.h"
 #include "text/ErrorTrap.h"
@@ -65,10 +66,17 @@ Offset FindValue(NumberedFile& file) {
   return key ? Offset(*key + NarrowValue) : std::nullopt;
 }
 
-std::string ReadText(NumberedFile& file, std::uint64_t offset, std::size_t length) {
-  std::string text(length, '\0');
-  text.resize(file.ReadAt(offset, text));
-  return text;
+// Raises error 7 for a text that memory does not hold.
+std::string ReadText(NumberedFile& file, std::uint64_t offset, std::uint64_t length) {
+  std::string bytes;
+  if (length > bytes.max_size()) throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
+  try {
+    bytes.resize(static_cast<std::size_t>(length));
+  } catch (const std::bad_alloc&) {
+    throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
+  }
+  bytes.resize(file.ReadAt(offset, bytes));
+  return bytes;
 }
 
 // The length up to the first control character behind the value's first two, less the character in
@@ -87,12 +95,10 @@ std::string ProductNameOf(Program& program, NumberedFile& file) {
   if (!value) return {};
   const Offset end = FindInFile(file, BytePattern(std::string(3, '\0')), *value);
   if (!end) return {};
-  auto length = static_cast<std::size_t>(*end - *value);
-  std::string raw = ReadText(file, *value, length);
+  std::string raw = ReadText(file, *value, *end - *value);
   if (raw.find(NextKey) != std::string::npos) {
-    length = LengthToControl(file, *value, length);
     ++program.ProductNameFallbacks;
-    raw.resize(std::min(length, raw.size()));
+    raw.resize(std::min(LengthToControl(file, *value, raw.size()), raw.size()));
   }
   std::erase(raw, '\0');
   return raw;

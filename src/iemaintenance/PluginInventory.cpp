@@ -198,6 +198,17 @@ void SubKeyCountButton(Program& program, KeyHandle root, const std::string& key,
       });
 }
 
+void SubKeyCounttb(Program& program, KeyHandle root, const std::string& key, std::int32_t& count) {
+  WalkSubKeys(
+      program, root, key, count, [] {},
+      [&program](const std::string& name, std::int32_t index) {
+        forms::ListItem& item =
+            Panel(program).lstBHO.Add("B" + std::to_string(index), "ToolBar", "tb");
+        item.AddSubItem("F1", "name");
+        item.AddSubItem("D1", WithoutLeadingBlanks(name));
+      });
+}
+
 void EnumToolbarValues(Program& program, KeyHandle root, const std::string& key) {
   constexpr std::uint32_t NoAccess = 0;
   constexpr std::uint32_t LastIndex = 999999;

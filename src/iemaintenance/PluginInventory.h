@@ -35,6 +35,11 @@ void SubKeyCountMenuExt(program::Program& program, platform::KeyHandle root, con
 void SubKeyCountButton(program::Program& program, platform::KeyHandle root, const std::string& key,
                        std::int32_t& count);
 
+// The same walk for toolbars that are subkeys: the row's second column has the text "name", a third
+// one, which the list does not show, the subkey's name. Nothing calls it.
+void SubKeyCounttb(program::Program& program, platform::KeyHandle root, const std::string& key,
+                   std::int32_t& count);
+
 // Adds a row for each text or binary value of a key. The key is opened with no access at all, so
 // that systems of the NT family refuse the first read and no row comes of it: this is meant.
 void EnumToolbarValues(program::Program& program, platform::KeyHandle root, const std::string& key);

@@ -126,6 +126,7 @@ class BackupTest : public ProgramTest {
     ASSERT_TRUE(box) << text;
     EXPECT_EQ(box->text, text);
     EXPECT_EQ(box->title, title);
+    EXPECT_EQ(HasIcon(*box), text != CannotMake && text != RestoreError) << text;
     ASSERT_TRUE(program.Answer(*box));
   }
   // Presses Backup and closes the boxes that come, the last of which tells of success.
@@ -327,6 +328,18 @@ TEST_F(BackupTest, FilesThatAreNoRegistrationFilesChangeNothing) {
   }
 }
 
+TEST_F(BackupTest, FilesInTheOldFormAreImported) {
+  Running program("", copy_.Executable());
+  Open(program);
+  const std::string key = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Internet Explorer\\";
+  WriteFileBytes(Default() + "\\CURRENT_IE_SETTINGS_RUN.reg",
+                 "REGEDIT4\r\n\r\n" + key + "VantrelProbe]\r\n\"old\"=\"form\"\r\n");
+  WriteFileBytes(Default() + "\\LOCAL_IE_SETTINGS_RUN.reg", "REGEDIT4\r\n");
+  Restore(program, Restored);
+  const std::string probe = "Software\\Microsoft\\Internet Explorer\\VantrelProbe";
+  EXPECT_EQ(vantrel::e2e::Read(HKEY_CURRENT_USER, probe, "old"), Text("form"));
+}
+
 TEST_F(BackupTest, DateFilesOfOtherContentAreShownAsFarAsTextGoes) {
   using namespace std::string_literals;
   CreateDirectoryA(Default().c_str(), nullptr);
@@ -348,7 +361,13 @@ TEST_F(BackupTest, OfADateFileOfTenMegabytesTheBeginningIsShown) {
   Running program("", copy_.Executable());
   Open(program);
   EXPECT_EQ(Shown(program), content.substr(0, 30000));
-  EXPECT_TRUE(program.Answers());
+  // Behind a backup that cannot write its date it is read again.
+  const HANDLE held = CreateFileA(DateFile(Default()).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                  nullptr, OPEN_EXISTING, 0, nullptr);
+  program.SetText(Control("txtBackup"), "");
+  Backup(program);
+  EXPECT_EQ(Shown(program).size(), 30000U);
+  CloseHandle(held);
 }
 
 }  // namespace

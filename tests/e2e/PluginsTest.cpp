@@ -183,14 +183,6 @@ class PluginsTest : public ProgramTest {
   static bool HasButton(const Box& box, int button) {
     return GetDlgItem(box.window, button) != nullptr;
   }
-  // The picture of a box stands in its own static.
-  static bool HasIcon(const Box& box) {
-    HWND child = nullptr;
-    while ((child = FindWindowExA(box.window, child, "Static", nullptr)) != nullptr) {
-      if (SendMessageA(child, STM_GETICON, 0, 0) != 0) return true;
-    }
-    return false;
-  }
   // Waits for a question and answers it.
   static void AnswerQuestion(const Running& program, const std::string& text, int button = IDYES) {
     const auto box = program.WaitForBox();
@@ -234,6 +226,24 @@ TEST_F(PluginsTest, WhatIsAttachedToTheBrowserIsListed) {
               "&Open elsewhere|Menu Ext", "Talk|IEButton", "Search|IEButton"});
   EXPECT_EQ(Images(program, 9), (std::vector<int>{0, 0, 0, 1, 1, 1, 3, 0, 0}));
   EXPECT_EQ(program.BoxCount(), 0U);
+}
+
+TEST_F(PluginsTest, IdsOfAnyBytesAndLengthAreTakenAsTheyStand) {
+  const std::string long255 = "{" + std::string(253, 'z') + "}";
+  const std::string letters = "{\xE4\xF6\xDF}";
+  CreateKey(HKEY_LOCAL_MACHINE, Helpers + "\\" + letters);
+  CreateKey(HKEY_LOCAL_MACHINE, Helpers + "\\" + long255);
+  Write(HKEY_CLASSES_ROOT, "CLSID\\" + letters, "", Text("\xC4rger"));
+  CreateKey(HKEY_CURRENT_USER, MenuExt +
+                                   "\\\xDC"
+                                   "ber");
+  Running program;
+  Open(program);
+  // A name of 255 characters does not fit and ends the walk.
+  ExpectRows(program, {"\xC4rger|BHO",
+                       "\xDC"
+                       "ber|Menu Ext"});
+  DeleteTree(HKEY_CLASSES_ROOT, "CLSID\\" + letters);
 }
 
 TEST_F(PluginsTest, OnlyWhatIsConfirmedGoes) {

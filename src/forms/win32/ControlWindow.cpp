@@ -120,7 +120,7 @@ std::string ControlWindow::ShownText() const {
 }
 
 void ControlWindow::ShowText() {
-  const std::string text = control_.WindowText();
+  const std::string text = control_.WindowText().substr(0, LongestShown);
   if (ShownText() == text) return;
   Tell(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
   if (Alive()) Invalidate();

@@ -47,6 +47,8 @@ class ControlWindow : public Window {
   // Runs the model's reaction to something from outside.
   void Raise(const std::function<void()>& event) { System().Raise(event); }
   std::string ShownText() const;
+  // Text boxes need minutes for a text of megabytes: no control shows more characters than these.
+  static constexpr std::size_t LongestShown = 30000;
   // Sends a message that the window handles as the control's own work, not as one from outside.
   LRESULT Tell(UINT message, WPARAM first = 0, LPARAM second = 0);
   bool IsTelling() const { return telling_ > 0; }

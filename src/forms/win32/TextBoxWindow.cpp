@@ -5,8 +5,6 @@ namespace {
 
 constexpr int TextMargin = 3;      // pixels at 96 dots per inch
 constexpr LPARAM LongestText = 0;  // no limit
-// With a text of megabytes no window is made, or only after minutes: it shows the beginning.
-constexpr std::size_t LongestAtCreation = 30000;
 
 DWORD AlignStyle(Align alignment) {
   switch (alignment) {
@@ -24,7 +22,7 @@ DWORD AlignStyle(Align alignment) {
 WindowShape TextBoxWindow::Shape() const {
   WindowShape shape;
   shape.ClassName = "EDIT";
-  shape.Text = box_.Text().substr(0, LongestAtCreation);
+  shape.Text = box_.Text().substr(0, LongestShown);
   shape.Style = WS_BORDER | AlignStyle(box_.Alignment());
   if (box_.MultiLine()) shape.Style |= ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
   if (!box_.MultiLine() || !box_.WordWrap()) shape.Style |= ES_AUTOHSCROLL;

@@ -74,6 +74,14 @@ std::string Quoted(const std::string& path) { return '"' + path + '"'; }
 
 }  // namespace
 
+bool HasIcon(const Box& box) {
+  HWND child = nullptr;
+  while ((child = FindWindowExA(box.window, child, "Static", nullptr)) != nullptr) {
+    if (SendMessageA(child, STM_GETICON, 0, 0) != 0) return true;
+  }
+  return false;
+}
+
 std::string ClassOf(HWND window) {
   char name[64]{};
   GetClassNameA(window, name, sizeof(name));

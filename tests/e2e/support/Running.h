@@ -27,6 +27,9 @@ struct Box {
   std::string text;
 };
 
+// Whether a message box has a picture, which stands in a static of its own.
+bool HasIcon(const Box& box);
+
 class Running {
  public:
   // Starts the program with the command line tail; `executable` empty for the staged one.

@@ -593,6 +593,26 @@ TEST_F(RealWindows, AListShowsItsRowsToWhoeverLooks) {
   EXPECT_EQ(SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 0);
 }
 
+TEST_F(RealWindows, ARowOfAListHasATipOfItsOwn) {
+  form.List.Add("a", "First", "");
+  form.List.Add("b", "Second", "").SetToolTipText("C:\\b.dll");
+  const HWND list = HandleOf(form.List);
+  const auto tipOf = [list](int row) {
+    char text[8] = "none";
+    NMLVGETINFOTIPA asked{};
+    asked.hdr = {list, static_cast<UINT_PTR>(GetDlgCtrlID(list)), LVN_GETINFOTIPA};
+    asked.iItem = row;
+    asked.pszText = text;
+    asked.cchTextMax = sizeof text;
+    SendMessageA(GetParent(list), WM_NOTIFY, asked.hdr.idFrom, reinterpret_cast<LPARAM>(&asked));
+    return std::string(text);
+  };
+  EXPECT_EQ(tipOf(0), "none");
+  EXPECT_EQ(tipOf(1), "C:\\b.dl");  // as far as there is room
+  EXPECT_EQ(tipOf(2), "none");
+  EXPECT_EQ(tipOf(-1), "none");
+}
+
 TEST_F(RealWindows, AListIsCheckedAndSelectedFromOutside) {
   form.List.Add("a", "First", "");
   form.List.Add("b", "Second", "");

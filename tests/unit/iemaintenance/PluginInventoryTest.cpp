@@ -53,7 +53,15 @@ TEST_F(PluginPanel, IdsAndNamesOfAnyBytesAreTakenAsTheyStand) {
   std::string bytes;
   for (int code = 0x80; code <= 0xFF; ++code) bytes.push_back(static_cast<char>(code));
   Helper("{" + bytes + "}", bytes);
-  EXPECT_THAT(Rows(), ElementsAre("B0|" + bytes + "|bho|BHO|D1|{" + bytes + "}|"));
+  MenuExtension(bytes);
+  Button("{" + bytes + "}", bytes);
+  Bar("{" + bytes + "}", bytes);
+  world.registry.readsWithoutAccess = true;
+  EXPECT_THAT(Rows(), ElementsAre("B0|" + bytes + "|bho|BHO|D1|{" + bytes + "}|",
+                                  "T0|" + bytes + "|tb|Toolbar|D1|{" + bytes + "}|",
+                                  "M0|" + bytes + "|mnu|Menu Ext|M1|" + MenuExt + bytes + "|",
+                                  "IEB0|" + bytes + "|bho|IEButton|IE10|" + ButtonTag + "{" +
+                                      bytes + "}|"));
 }
 
 TEST_F(PluginPanel, AClassWithoutATextGivesARowWithoutAName) {
@@ -65,8 +73,11 @@ TEST_F(PluginPanel, AClassWithoutATextGivesARowWithoutAName) {
   world.registry.Set(HKeyClassesRoot, "CLSID\\{3}", "", platform::RegSz, "");
   Helper("{4}");
   world.registry.Set(HKeyClassesRoot, "CLSID\\{4}", "", platform::RegSz, "no terminator");
-  EXPECT_THAT(Rows(), ElementsAre("B0||bho|BHO|D1|{1}|", "B1||bho|BHO|D1|{2}|",
-                                  "B2||bho|BHO|D1|{3}|", "B3|no terminator|bho|BHO|D1|{4}|"));
+  Helper("{5}");
+  world.registry.SetDword(HKeyClassesRoot, "CLSID\\{5}", "", 7);
+  EXPECT_THAT(Rows(),
+              ElementsAre("B0||bho|BHO|D1|{1}|", "B1||bho|BHO|D1|{2}|", "B2||bho|BHO|D1|{3}|",
+                          "B3|no terminator|bho|BHO|D1|{4}|", "B4|7|bho|BHO|D1|{5}|"));
   EXPECT_THAT(BoxTexts(), IsEmpty());
 }
 
@@ -164,6 +175,15 @@ TEST_F(PluginPanel, APathOfZeroBytesIsAnEmptyOne) {
   world.registry.Set(HKeyLocalMachine, test::BrowserSetupKey, "Path", platform::RegSz, "");
   EXPECT_EQ(Panel().flbpluginsfile.Path(), "\\PLUGINS");
   EXPECT_THAT(BoxTexts(), ElementsAre("Some error occured: Path not found"));
+}
+
+// Only a plain text is a folder's name.
+TEST_F(PluginPanel, APathOfAnotherTypeIsAnEmptyOne) {
+  for (const std::uint32_t type : {platform::RegExpandSz, platform::RegBinary}) {
+    world.registry.Set(HKeyLocalMachine, test::BrowserSetupKey, "Path", type, "C:\\Browser");
+    LoadPluginList(program);
+    EXPECT_EQ(Panel().flbpluginsfile.Path(), "\\PLUGINS");
+  }
 }
 
 TEST_F(PluginPanel, FilesBeyondA16BitNumberAreNotListed) {
@@ -295,6 +315,19 @@ TEST_F(OldWindows, AnEmptyKeyEnumeratesTheRootItself) {
   EXPECT_THAT(Rows(), ElementsAre("T0||tb|Toolbar|D1|{9}|"));
 }
 
+// An old row keeps its key; its number is used up all the same.
+TEST_F(OldWindows, WithoutTheClearOldToolbarsStay) {
+  Value("{1}", platform::RegSz, "x");
+  Class("{1}", "First");
+  EXPECT_THAT(Keys(), ElementsAre("T0"));
+  world.registry.RemoveKey(HKeyLocalMachine, Helpers);
+  Value("{2}", platform::RegSz, "x");
+  Class("{1}", "Renamed");
+  Class("{2}", "Second");
+  Refresh();
+  EXPECT_THAT(Rows(), ElementsAre("T0|First|tb|Toolbar|D1|{1}|", "T1|Second|tb|Toolbar|D1|{2}|"));
+}
+
 TEST_F(OldWindows, TheKindsStandInTheirOrder) {
   OneOfEachKind();
   EXPECT_THAT(Keys(), ElementsAre("B0", "P0", "T0", "M0", "IEB0"));
@@ -316,11 +349,32 @@ TEST_F(PluginPanel, AWalkGivesTheNumberOfItsSubkeys) {
   }
   SubKeyCountButton(program, HKeyLocalMachine, Extensions, count);
   EXPECT_EQ(count, 3);
-  for (const auto walk : {SubKeyCount, SubKeyCountMenuExt, SubKeyCountButton}) {
+  SubKeyCounttb(program, HKeyLocalMachine, Extensions, count);
+  EXPECT_EQ(count, 3);
+  for (const auto walk : {SubKeyCount, SubKeyCountMenuExt, SubKeyCountButton, SubKeyCounttb}) {
     count = 7;
     walk(program, HKeyLocalMachine, "Software\\no such key\\", count);
     EXPECT_EQ(count, 0);
   }
+}
+
+TEST_F(PluginPanel, AToolbarThatIsASubkeyShowsNoNameOfItsOwn) {
+  Helper("{1}", "First");
+  Panel();
+  world.registry.MakeKey(HKeyLocalMachine, "Software\\Bars\\ {2} ");
+  world.registry.MakeKey(HKeyLocalMachine, "Software\\Bars\\{3}");
+  List().Clear();
+  MenuExtension("a");
+  std::int32_t count = 0;
+  SubKeyCountMenuExt(program, HKeyCurrentUser, MenuExt, count);
+  SubKeyCounttb(program, HKeyLocalMachine, "Software\\Bars\\", count);
+  EXPECT_THAT(Rows(), ElementsAre("M0|a|mnu|Menu Ext|M1|" + MenuExt + "a|",
+                                  "B0|ToolBar|tb|name|F1||", "B1|ToolBar|tb|name|F1||"));
+  for (const auto& [row, id] : {std::pair(2, "{2} "), std::pair(3, "{3}")}) {
+    EXPECT_EQ(List().Item(row).Sub(2).Key, "D1");
+    EXPECT_EQ(List().Item(row).Sub(2).Text, id);
+  }
+  EXPECT_EQ(process.OpenKeys(), 0U);
 }
 
 TEST_F(PluginPanel, OnlyTheKeyOfHelperObjectsClearsTheList) {

@@ -201,6 +201,27 @@ TEST_F(PluginPanel, ALockedLibraryComesBack) {
   EXPECT_EQ(world.files.Read(PluginPath("a.dll")), content);
 }
 
+// Both deletes are refused; nothing takes the attribute away.
+TEST_F(PluginPanel, AReadOnlyLibraryComesBack) {
+  Library("a.dll", "A");
+  Panel();
+  const std::string content = *world.files.Read(PluginPath("a.dll"));
+  world.files.SetReadOnly(PluginPath("a.dll"), true);
+  DeleteAll({AnswerYes});
+  EXPECT_EQ(process.Boxes().size(), 1U);
+  EXPECT_THAT(Keys(), ElementsAre("P0"));
+  EXPECT_EQ(world.files.Read(PluginPath("a.dll")), content);
+}
+
+TEST_F(PluginPanel, ARowWhoseLibraryIsGoneGoesAtTheRefresh) {
+  Library("a.dll", "A");
+  Panel();
+  world.files.Remove(PluginPath("a.dll"));
+  DeleteAll({AnswerYes});
+  EXPECT_EQ(process.Boxes().size(), 1U);
+  EXPECT_THAT(Keys(), IsEmpty());
+}
+
 TEST_F(PluginPanel, AToolbarOfAKeyThatIsReadOnlyComesBack) {
   Bar("{1}", "Bar");
   world.registry.readsWithoutAccess = true;

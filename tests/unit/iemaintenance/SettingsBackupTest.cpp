@@ -304,6 +304,37 @@ TEST_F(Backup, AnEditorThatCannotBeStartedIsNoErrorOfABackup) {
   EXPECT_THAT(Panel().txtBackup.Text(), StartsWith("Last backup date was:"));
 }
 
+TEST_F(Backup, AnEditorThatAsksForMoreRightsIsStartedWithThem) {
+  world.programs.RequireElevation("C:\\WINDOWS\\regedit.exe");
+  PressBackup();
+  ASSERT_EQ(world.programs.Started().size(), 2U);
+  EXPECT_TRUE(world.programs.Started()[0].elevated && world.programs.Started()[1].elevated);
+  EXPECT_THAT(BoxTexts(), ElementsAre(Created));
+}
+
+TEST_F(Backup, RefusedRightsAreNoErrorOfABackupButOneOfARestore) {
+  PutBackup(Default);
+  Panel();
+  world.programs.RequireElevation("C:\\WINDOWS\\regedit.exe");
+  world.programs.RefuseElevation(1223);
+  PressBackup();
+  EXPECT_THAT(Commands(), IsEmpty());
+  EXPECT_THAT(BoxTexts(), ElementsAre(Created));
+  process.ClearBoxes();
+  PressRestore();
+  EXPECT_THAT(BoxTexts(), ElementsAre(PleaseClose, RestoreError));
+}
+
+// The attribute of a folder keeps nobody from writing into it.
+TEST_F(Backup, AFolderMarkedReadOnlyIsBackedUpInto) {
+  world.files.MakeFolder("D:\\mine");
+  world.files.SetReadOnly("D:\\mine", true);
+  PanelAt("D:\\mine");
+  PressBackup();
+  EXPECT_TRUE(world.files.IsFile("D:\\mine\\" + UserFile));
+  EXPECT_THAT(Panel().txtBackup.Text(), StartsWith("Last backup date was:"));
+}
+
 TEST_F(Backup, NoForeignEditorIsStarted) {
   for (const char* folder : {"C:\\Program Files\\Vantrel", "C:", "C:\\WINDOWS\\System"}) {
     world.files.Put(std::string(folder) + "\\regedit.exe", "MZ");

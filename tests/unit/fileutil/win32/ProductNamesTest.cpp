@@ -77,9 +77,37 @@ TEST(SystemLibraries, HaveTheNamesOfThePlainSearch) {
   }
   EXPECT_EQ(program.ProductNameFallbacks, plain.Fallbacks());
   EXPECT_GT(libraries.size(), 100U);
+  // Wine's own libraries have a type word of 0 in front of the landmark, which is no landmark then.
+  EXPECT_GT(asTheResource, 0U);
   std::printf("%u of %u names in version resources of %u libraries are found\n",
               static_cast<unsigned>(asTheResource), static_cast<unsigned>(named),
               static_cast<unsigned>(libraries.size()));
+}
+
+TEST(LargeFile, IsReadAndWrittenBeyond4Gigabytes) {
+  const auto windows = platform::win32::MakeWin32Platform();
+  platform::BinaryFiles& files = windows->Platform().binaryFiles;
+  char folder[MAX_PATH]{};
+  GetTempPathA(MAX_PATH, folder);
+  const std::string path = std::string(folder) + "VantrelLarge";
+  ASSERT_EQ(windows->Platform().files.WriteTextFile(path, "begin"), platform::ErrorSuccess);
+  platform::OpenFileHandle file = 0;
+  ASSERT_EQ(files.OpenFile(path, platform::FileAccess::ReadWrite, file), platform::ErrorSuccess);
+  // What lies between is not stored.
+  constexpr std::uint64_t Far = (std::uint64_t{1} << 32U) + 7;
+  EXPECT_EQ(files.WriteAt(file, Far, "end"), platform::ErrorSuccess);
+  EXPECT_EQ(files.FileLength(file), Far + 3);
+  std::string read(8, 'x');
+  std::size_t count = 0;
+  EXPECT_EQ(files.ReadAt(file, Far, read, count), platform::ErrorSuccess);
+  EXPECT_EQ(read.substr(0, count), "end");
+  EXPECT_EQ(files.ReadAt(file, 0, read, count), platform::ErrorSuccess);
+  EXPECT_EQ(read, std::string("begin\0\0\0", 8));
+  files.CloseFile(file);
+  std::uint64_t length = 0;
+  EXPECT_EQ(windows->Platform().files.FileLength(path, length), platform::ErrorSuccess);
+  EXPECT_EQ(length, Far + 3);
+  DeleteFileA(path.c_str());
 }
 
 }  // namespace
