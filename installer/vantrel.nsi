@@ -56,6 +56,8 @@ VIAddVersionKey "ProductVersion" "${VERSION}.0"
 !define MUI_PAGE_CUSTOMFUNCTION_LEAVE CheckFolder
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
+; As wide as its place in every font.
+!define MUI_UNCONFIRMPAGE_TEXT_LOCATION "Folder:"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
@@ -98,11 +100,33 @@ FunctionEnd
 !insertmacro EndProgram ""
 !insertmacro EndProgram "un."
 
+; A folder that cannot be is refused; the system's own way is to take the usual one without a word.
+Function .onInit
+  System::Call 'kernel32::GetCommandLineW() w .r0'
+  StrCpy $1 0
+  ${Do}
+    StrCpy $2 $0 4 $1
+    ${If} $2 == " /D="
+      IntOp $1 $1 + 4
+      StrCpy $2 $0 "" $1
+      StrCpy $1 $2 1 -1
+      ${If} $1 == "\"
+        StrCpy $2 $2 -1
+      ${EndIf}
+      ${If} $2 != "$INSTDIR"
+        ${Refuse} "Vantrel cannot be installed into this folder. Nothing has been changed.$\r$\n$\r$\n$2"
+      ${EndIf}
+      ${ExitDo}
+    ${EndIf}
+    IntOp $1 $1 + 1
+  ${LoopUntil} $2 == ""
+FunctionEnd
+
 ; CheckFolder: a folder that the program could not work in is refused.
 Function CheckFolder
   StrLen $0 "$INSTDIR"
   ${If} $0 > ${LONGEST_FOLDER}
-    ${Refuse} "The name of this folder is too long: Vantrel needs one of at most ${LONGEST_FOLDER} characters.$\r$\n$\r$\n$INSTDIR"
+    ${Refuse} "The name of this folder is too long: Vantrel needs one of at most ${LONGEST_FOLDER} characters."
   ${EndIf}
   ; The program's texts are in the system's 8-bit code page: is each letter in it?
   System::Call 'kernel32::WideCharToMultiByte(i 0, i 0x400, w "$INSTDIR", i -1, p 0, i 0, p 0, *i .r0)'
@@ -111,16 +135,46 @@ Function CheckFolder
   ${EndIf}
 FunctionEnd
 
+; The topmost folder on the way to the program's that was not there before.
+Var missing
+
+Function FindMissing
+  StrCpy $missing ""
+  StrCpy $0 "$INSTDIR"
+  ${DoUntil} $0 == ""
+    ${If} ${FileExists} "$0\*.*"
+      ${ExitDo}
+    ${EndIf}
+    StrCpy $missing $0
+    ${GetParent} $0 $0
+  ${Loop}
+FunctionEnd
+
+; CheckFile: sets the error flag if the file $0 is there and cannot be written.
+Function CheckFile
+  ClearErrors
+  ${If} ${FileExists} $0
+    FileOpen $1 $0 a
+    ${If} ${Errors}
+      SetErrors
+    ${Else}
+      FileClose $1
+    ${EndIf}
+  ${EndIf}
+FunctionEnd
+
 ; Everything is unpacked beside the old files before one of them is touched.
 Section
   Call CheckFolder
-  ; Each folder on the way to the program's that is not there yet: an installation that fails takes
-  ; it away again.
+  Call FindMissing
+  ClearErrors
   SetOutPath "$INSTDIR\~setup"
   ${If} ${Errors}
+    Call .onInstFailed
     ${Refuse} "Vantrel cannot write into this folder. Nothing has been changed.$\r$\n$\r$\n$INSTDIR"
   ${EndIf}
   File /r "${PROGRAM}\*"
+  WriteUninstaller "$INSTDIR\~setup\uninstall.exe"
   ${If} ${Errors}
     Call .onInstFailed
     ${Refuse} "Vantrel cannot write into this folder, or the disk is full. Nothing has been changed.$\r$\n$\r$\n$INSTDIR"
@@ -132,23 +186,27 @@ Section
     Call .onInstFailed
     ${Refuse} "Vantrel is running and does not end. Please end it and start the setup again. Nothing has been changed."
   ${EndIf}
-  ${If} ${FileExists} "$INSTDIR\Vantrel.exe"
-    ClearErrors
-    FileOpen $1 "$INSTDIR\Vantrel.exe" a
-    ${If} ${Errors}
-      Call .onInstFailed
-      ${Refuse} "Vantrel.exe is in use, perhaps by another user of this computer. Nothing has been changed."
-    ${EndIf}
-    FileClose $1
+  !insertmacro CheckFiles
+  StrCpy $0 "$INSTDIR\uninstall.exe"
+  Call CheckFile
+  ${If} ${Errors}
+  busy:
+    Call .onInstFailed
+    ${Refuse} "This file is in use, perhaps by another user of this computer, or is protected. Nothing has been changed.$\r$\n$\r$\n$0"
   ${EndIf}
 
   ; An older version removes what it has brought; what is the user's stays.
   ${If} ${FileExists} "$INSTDIR\uninstall.exe"
     ExecWait '"$INSTDIR\uninstall.exe" /S /UPGRADE _?=$INSTDIR'
   ${EndIf}
+  ClearErrors
   !insertmacro MoveFiles
+  Delete "$INSTDIR\uninstall.exe"
+  Rename "$INSTDIR\~setup\uninstall.exe" "$INSTDIR\uninstall.exe"
+  ${If} ${Errors}
+    ${Refuse} "Some files could not be replaced while the setup was at work. Please close all programs and start it again.$\r$\n$\r$\n$INSTDIR"
+  ${EndIf}
   RMDir /r "$INSTDIR\~setup"
-  WriteUninstaller "$INSTDIR\uninstall.exe"
 
   SetShellVarContext all
   CreateShortCut "${SHORTCUT}" "$INSTDIR\Vantrel.exe"
@@ -165,11 +223,18 @@ Section
   WriteRegDWORD HKLM "${ENTRY}" "EstimatedSize" $0
 SectionEnd
 
-; Also when the system's own box has told that a file could not be unpacked.
+; Also when the system's own box has told that a file could not be unpacked. $0 is kept.
 Function .onInstFailed
   SetOutPath "$TEMP"
   RMDir /r "$INSTDIR\~setup"
-  RMDir "$INSTDIR"
+  ${If} $missing != ""
+    StrCpy $1 "$INSTDIR"
+    RMDir $1
+    ${DoUntil} $1 == $missing
+      ${GetParent} $1 $1
+      RMDir $1
+    ${Loop}
+  ${EndIf}
 FunctionEnd
 
 Section Uninstall
@@ -216,4 +281,9 @@ Section Uninstall
   RMDir "$INSTDIR\Settings\IESettings"
   RMDir "$INSTDIR\Settings"
   RMDir "$INSTDIR"
+  ${GetParent} "$INSTDIR" $0
+  ${GetFileName} $0 $1
+  ${If} $1 == "Qorvel Softwares"
+    RMDir $0
+  ${EndIf}
 SectionEnd

@@ -18,9 +18,14 @@ inline constexpr FileErrorRow FileErrorRows[] = {
     {3, text::ErrorNumber::PathNotFound},           // no such folder
     {5, text::ErrorNumber::PermissionDenied},       // refused
     {8, text::ErrorNumber::OutOfMemory},            // no memory for the content
+    {19, text::ErrorNumber::PermissionDenied},      // a write-protected medium
+    {21, text::ErrorNumber::DeviceUnavailable},     // a drive without a medium
     {32, text::ErrorNumber::PermissionDenied},      // locked by somebody else
+    {39, text::ErrorNumber::DiskFull},              // disk full
     {112, text::ErrorNumber::DiskFull},             // disk full
+    {123, text::ErrorNumber::BadFileNameOrNumber},  // letters that no file name has
     {145, text::ErrorNumber::PathFileAccessError},  // a folder that is not empty
+    {206, text::ErrorNumber::BadFileNameOrNumber},  // a name that is too long
     {267, text::ErrorNumber::PathFileAccessError},  // a file in a folder's place
 };
 

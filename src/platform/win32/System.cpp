@@ -12,13 +12,38 @@ namespace {
 
 static_assert(sizeof(OSVERSIONINFOEXA) == 156);
 
-std::string ExecutablePath() {
-  std::string path(MAX_PATH, '\0');
+// What a call that fills a buffer of any size has put there; empty if it failed.
+template <typename Fill>
+std::wstring WideText(Fill fill) {
+  std::wstring text(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length < path.size()) return path.substr(0, length);
-    path.resize(path.size() * 2);
+    const DWORD length = fill(text.data(), static_cast<DWORD>(text.size()));
+    if (length < text.size()) return text.substr(0, length);
+    text.resize(text.size() * 2);
   }
+}
+
+// In the system code page; `lost` if a letter is not in it.
+std::string Narrow(const std::wstring& wide, BOOL& lost) {
+  const int length = static_cast<int>(wide.size());
+  std::string text(wide.size() * 2, '\0');
+  text.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), length, text.data(),
+                          static_cast<int>(text.size()), nullptr, &lost)));
+  return text;
+}
+
+// A path with letters that are not in the system code page goes by its short name, where the drive
+// has one.
+std::string ExecutablePath() {
+  const std::wstring path = WideText(
+      [](wchar_t* buffer, DWORD room) { return GetModuleFileNameW(nullptr, buffer, room); });
+  BOOL lost = FALSE;
+  std::string text = Narrow(path, lost);
+  if (lost == FALSE) return text;
+  const std::wstring brief = WideText(
+      [&](wchar_t* buffer, DWORD room) { return GetShortPathNameW(path.c_str(), buffer, room); });
+  return brief.empty() ? text : Narrow(brief, lost);
 }
 
 // What a call that fills a buffer has put there; empty if it failed.

@@ -413,7 +413,12 @@ TEST(FileErrors, EachCodeHasItsError) {
   EXPECT_EQ(fileutil::FileErrorNumber(5), ErrorNumber::PermissionDenied);
   EXPECT_EQ(fileutil::FileErrorNumber(32), ErrorNumber::PermissionDenied);
   EXPECT_EQ(fileutil::FileErrorNumber(112), ErrorNumber::DiskFull);
-  EXPECT_EQ(fileutil::FileErrorNumber(123), ErrorNumber::DeviceIoError);
+  EXPECT_EQ(fileutil::FileErrorNumber(19), ErrorNumber::PermissionDenied);
+  EXPECT_EQ(fileutil::FileErrorNumber(21), ErrorNumber::DeviceUnavailable);
+  EXPECT_EQ(fileutil::FileErrorNumber(39), ErrorNumber::DiskFull);
+  EXPECT_EQ(fileutil::FileErrorNumber(123), ErrorNumber::BadFileNameOrNumber);
+  EXPECT_EQ(fileutil::FileErrorNumber(206), ErrorNumber::BadFileNameOrNumber);
+  EXPECT_EQ(fileutil::FileErrorNumber(31), ErrorNumber::DeviceIoError);
   EXPECT_NO_THROW(fileutil::RaiseFileError(0));
 }
 
