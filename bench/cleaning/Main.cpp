@@ -4,11 +4,12 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "Report.h"
 #include "cleaning/FolderSize.h"
 #include "cleaning/WipeFolder.h"
 #include "e2e/system/RealProgram.h"
@@ -19,31 +20,25 @@ namespace {
 
 using Way = std::function<void()>;
 
-double SecondsOf(const Way& way) {
+double MillisecondsOf(const Way& way) {
   const auto start = std::chrono::steady_clock::now();
   way();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
 }
 
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
-// Runs both ways in turn, `prepare` before each, and prints the medians and their ratio.
-void Compare(const char* what, const char* wanted, int runs, const Way& prepare, const Way& ours,
-             const Way& plain) {
-  std::vector<double> times;
-  std::vector<double> plainTimes;
+// Runs both ways in turn, `prepare` before each.
+void Compare(const std::string& what, const char* mark, int runs, const Way& prepare,
+             const Way& ours, const char* plainly, const Way& plain) {
+  Times times;
+  Times plainTimes;
   for (int run = 0; run < runs; ++run) {
     prepare();
-    times.push_back(SecondsOf(ours));
+    times.push_back(MillisecondsOf(ours));
     prepare();
-    plainTimes.push_back(SecondsOf(plain));
+    plainTimes.push_back(MillisecondsOf(plain));
   }
-  std::printf("%-44s %9.1f ms %9.1f ms %6.2f (%s)\n", what, Median(times) * 1000,
-              Median(plainTimes) * 1000, Median(times) / Median(plainTimes), wanted);
-  std::fflush(stdout);
+  PrintRow(what, Median(times), "ms", mark, {plainly, Median(plainTimes)});
 }
 
 std::string FolderForFiles() {
@@ -83,20 +78,18 @@ void WipePlainly(std::size_t size) {
   FindClose(search);
 }
 
-std::uint64_t WalkPlainly(const std::string& folder) {
-  std::uint64_t bytes = 0;
+// Lists each folder below, and in each looks for the name.
+void SearchPlainly(const std::string& folder, const char* wanted) {
   WIN32_FIND_DATAA found{};
-  HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return 0;
+  HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);
   do {
     const std::string name = found.cFileName;
-    bytes += found.nFileSizeLow;
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && name != "." && name != "..") {
-      bytes += WalkPlainly(folder + "\\" + name);
+      SearchPlainly(folder + name + "\\", wanted);
     }
   } while (FindNextFileA(search, &found));
   FindClose(search);
-  return bytes;
+  FindClose(FindFirstFileA((folder + wanted).c_str(), &found));
 }
 
 void ListByCommand(const std::string& tree) {
@@ -117,32 +110,25 @@ void CompareWipes(program::Program& program, int runs) {
     const std::string what = "overwrite and delete " + std::to_string(count) + " files of " +
                              std::to_string(size) + " bytes";
     Compare(
-        what.c_str(), "<= 1.2", runs, [&, c = count, s = size] { WriteFiles(c, s); },
-        [&] { cleaning::WipeFolder(program, folder); }, [s = size] { WipePlainly(s); });
+        what, "x1.2", runs, [&, c = count, s = size] { WriteFiles(c, s); },
+        [&] { cleaning::WipeFolder(program, folder); }, "open, write, close, delete",
+        [s = size] { WipePlainly(s); });
   }
   RemoveDirectoryA(folder.c_str());
 }
 
 void CompareWalks(program::Program& program, const std::string& tree, int runs) {
   const Way nothing = [] {};
-  const Way size = [&] {
-    if (cleaning::FolderSize(program.platform.folders, tree) != WalkPlainly(tree)) {
-      std::printf("the sizes differ\n");
-    }
-  };
-  size();  // and everything is in the system's memory for both
   const Way measure = [&] { cleaning::FolderSize(program.platform.folders, tree); };
+  measure();  // and everything is in the system's memory for all
   const Way search = [&] {
     fileutil::FileSearchResult found;
     fileutil::SearchFiles(program, tree, "cookies.txt", platform::AttributeDirectory,
                           platform::AttributeArchive, found);
   };
-  const Way command = [&] { ListByCommand(tree); };
-  const Way walk = [&] { WalkPlainly(tree); };
-  Compare("size, beside dir /s", "<= 1.0", runs, nothing, measure, command);
-  Compare("size, beside a bare walk", "told", runs, nothing, measure, walk);
-  Compare("search, beside dir /s", "<= 1.0", runs, nothing, search, command);
-  Compare("search, which lists twice, beside a bare walk", "told", runs, nothing, search, walk);
+  Compare("size of the tree", "x1", runs, nothing, measure, "dir /s", [&] { ListByCommand(tree); });
+  Compare("search of the tree", "x1", runs, nothing, search, "bare walk with the same listings",
+          [&] { SearchPlainly(tree + "\\", "cookies.txt"); });
 }
 
 }  // namespace
@@ -152,7 +138,6 @@ int main(int count, char** arguments) {
   if (count < 2) return 2;
   const int runs = count > 2 ? std::max(1, std::atoi(arguments[2])) : 3;
   vantrel::e2e::RealProgram copy;
-  std::printf("%-44s %12s %12s %6s\n", "", "program", "plain way", "ratio");
   vantrel::bench::CompareWipes(copy.program, runs);
   vantrel::bench::CompareWalks(copy.program, arguments[1], runs);
   return 0;

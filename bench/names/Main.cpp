@@ -1,6 +1,6 @@
 // Measures the search for product names on real files beside grep on the same bytes, in one run and
-// in turn: all libraries of a folder, and one large file without the key. Processor time and time
-// of day, medians, ratios, and what the search adds to the resident memory.
+// in turn: all libraries of a folder, and one large file without the key. Processor time, and what
+// the search adds to the resident memory.
 //
 //   bench-product-names FOLDER [RUNS]
 #include <fcntl.h>
@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -18,6 +17,7 @@
 #include <string>
 #include <vector>
 
+#include "Report.h"
 #include "fileutil/modFileInfo.h"
 #include "forms/headless/Toolkit.h"
 #include "platform/memory/Process.h"
@@ -70,11 +70,6 @@ platform::Platform WithFiles(const platform::Platform& windows, platform::Binary
           files};
 }
 
-struct Times {
-  double Processor = 0;  // milliseconds
-  double Day = 0;
-};
-
 double Milliseconds(const rusage& usage) {
   const auto of = [](const timeval& time) {
     return static_cast<double>(time.tv_sec) * 1000 + static_cast<double>(time.tv_usec) / 1000;
@@ -82,16 +77,14 @@ double Milliseconds(const rusage& usage) {
   return of(usage.ru_utime) + of(usage.ru_stime);
 }
 
-// `who` did the act: this process or its children.
-Times Measure(int who, const std::function<void()>& act) {
+// The processor time of `who`, which did the act: this process or its children.
+double Measure(int who, const std::function<void()>& act) {
   rusage before{};
   rusage behind{};
   getrusage(who, &before);
-  const auto start = std::chrono::steady_clock::now();
   act();
-  const std::chrono::duration<double, std::milli> day = std::chrono::steady_clock::now() - start;
   getrusage(who, &behind);
-  return {Milliseconds(behind) - Milliseconds(before), day.count()};
+  return Milliseconds(behind) - Milliseconds(before);
 }
 
 long MostMemory() {
@@ -100,23 +93,16 @@ long MostMemory() {
   return usage.ru_maxrss;
 }
 
-double Median(const std::vector<Times>& times, double Times::*part) {
-  std::vector<double> values;
-  for (const Times& each : times) values.push_back(each.*part);
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
 class Bench {
  public:
   explicit Bench(int runs) : runs_(runs) {}
 
-  void Compare(const char* what, const std::vector<std::string>& paths) {
+  void Compare(const std::string& what, const std::vector<std::string>& paths) {
     std::string list;
     for (const std::string& path : paths) list += path + '\0';
     std::ofstream("/tmp/bench-product-names.list", std::ios::binary) << list;
-    std::vector<Times> own;
-    std::vector<Times> grep;
+    Times own;
+    Times grep;
     for (int run = 0; run < runs_; ++run) {
       own.push_back(Measure(RUSAGE_SELF, [&] { NameAll(paths); }));
       grep.push_back(Measure(RUSAGE_CHILDREN, [] {
@@ -127,35 +113,23 @@ class Bench {
       }));
     }
     std::remove("/tmp/bench-product-names.list");
-    Print(what, "processor", own, grep, &Times::Processor);
-    Print(what, "time of day", own, grep, &Times::Day);
-    std::printf("%zu files, %zu named\n", paths.size(), named_);
+    PrintRow("product names, " + what, Median(own), "ms", "x1.5", {"grep -c", Median(grep)});
   }
 
   // By how much a search of the file raises the most memory that this process has ever had.
   void MeasureMemory(const std::string& path) {
     const long before = MostMemory();
     NameAll({path});
-    std::printf("resident memory: %ld KB more by a search of that file\n", MostMemory() - before);
+    PrintRow("product names, memory for 100 MB", static_cast<double>(MostMemory() - before), "KB",
+             "2048");
   }
 
  private:
   void NameAll(const std::vector<std::string>& paths) {
-    named_ = 0;
-    for (const std::string& path : paths) {
-      named_ += fileutil::GetProductName(program_, path).empty() ? 0 : 1;
-    }
-  }
-  static void Print(const char* what, const char* part, const std::vector<Times>& own,
-                    const std::vector<Times>& grep, double Times::*value) {
-    const double mine = Median(own, value);
-    const double plain = Median(grep, value);
-    std::printf("%-24s %-12s %9.1f ms, grep %9.1f ms, ratio %.2f\n", what, part, mine, plain,
-                mine / plain);
+    for (const std::string& path : paths) fileutil::GetProductName(program_, path);
   }
 
   int runs_;
-  std::size_t named_ = 0;
   RealFiles files_;
   platform::memory::World world_;
   platform::memory::Process process_{world_};
@@ -204,7 +178,7 @@ int main(int count, char** arguments) {
   const std::string large = LargeFile(libraries);
   Bench bench(count > 2 ? std::atoi(arguments[2]) : 7);
   bench.MeasureMemory(large);
-  bench.Compare("libraries", libraries);
+  bench.Compare(std::to_string(libraries.size()) + " libraries", libraries);
   bench.Compare("100 MB without the key", {large});
   std::remove(large.c_str());
   return 0;

@@ -6,6 +6,9 @@ namespace vantrel::bench {
 
 void RegisterAllowList();
 
+// The row of the heap that the rows of 100,000 sites keep.
+void PrintListMemory();
+
 }  // namespace vantrel::bench
 
 #endif  // VANTREL_BENCH_NATIVE_ALLOWLIST_H_

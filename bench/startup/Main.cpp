@@ -1,6 +1,6 @@
-// Measures Vantrel.exe beside the bare window program, in one run and in turn: start to idle, the
-// idle tick, a command from its sender's start to its panel, a panel switch, the toolbar's dialog,
-// long allow lists. Prints medians and ratios.
+// Measures Vantrel.exe beside the bare window program, in one run: start to idle, a command from
+// its sender's start to its panel, panel switches, the toolbar's dialog, long allow lists, what it
+// takes when idle and under load.
 #include <windows.h>
 
 #include <algorithm>
@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "Report.h"
 #include "startup/AllowList.h"
 #include "startup/Probe.h"
-#include "startup/Report.h"
 
 namespace vantrel::bench {
 namespace {
@@ -29,49 +29,31 @@ struct Options {
 
 constexpr const char* BareTitle = "Bare window program";
 constexpr UINT OpenBareDialog = WM_APP + 50;
-constexpr double WantedSize = 1.5 * 1024 * 1024;
 
-struct StartTimes {
-  Times idle;
-  Times processor;
-};
-
-void MeasureStart(const std::string& executable, const char* title, StartTimes& times) {
+double MeasureStart(const std::string& executable, const char* title) {
   Probe probe(executable, "", title);
-  times.idle.push_back(probe.WaitUntilIdle());
-  // Painting comes after the messages: it is over when the next half second brings nothing more.
-  double before = -1;
-  WaitUntil(
-      [&] {
-        Sleep(200);
-        const double now = probe.ProcessorTime();
-        const bool still = now == before;
-        before = now;
-        return still;
-      },
-      5000);
-  times.processor.push_back(probe.ProcessorTime());
+  const double time = probe.WaitUntilIdle();
   probe.Close();
+  return time;
 }
 
 void MeasureStarts(const Options& options) {
-  StartTimes program;
-  StartTimes bare;
-  StartTimes warmUp;
-  MeasureStart(options.bare, BareTitle, warmUp);
-  MeasureStart(options.program, ProgramTitle, warmUp);
+  Times program;
+  Times bare;
+  MeasureStart(options.bare, BareTitle);
+  MeasureStart(options.program, ProgramTitle);
   for (int run = 0; run < options.runs; ++run) {
-    MeasureStart(options.bare, BareTitle, bare);
-    MeasureStart(options.program, ProgramTitle, program);
+    bare.push_back(MeasureStart(options.bare, BareTitle));
+    program.push_back(MeasureStart(options.program, ProgramTitle));
   }
-  PrintRow("start to idle", Median(program.idle), Median(bare.idle), "ms", "<= 1.5");
-  PrintRow("processor time of a start, with painting", Median(program.processor),
-           Median(bare.processor), "ms", "");
+  PrintRow("start to idle", Median(program), "ms", "x1.2", {"bare window program", Median(bare)});
 }
 
-// Processor time a second over the given time, in milliseconds; the slowest answer in it.
+// Processor time in percent of a core over the given time; the slowest answer in it; the private
+// memory at its end.
 struct IdleResult {
-  double perSecond = 0;
+  double share = 0;
+  double memory = 0;
   double slowestAnswer = 0;
 };
 
@@ -84,7 +66,8 @@ IdleResult MeasureIdle(const Probe& probe, int seconds) {
     Sleep(500);
     result.slowestAnswer = std::max(result.slowestAnswer, probe.RoundTrip());
   }
-  result.perSecond = (probe.ProcessorTime() - before) * 1000 / (Now() - start);
+  result.share = (probe.ProcessorTime() - before) * 100 / (Now() - start);
+  result.memory = probe.PrivateKilobytes();
   return result;
 }
 
@@ -96,25 +79,22 @@ IdleResult MeasureIdleOf(const std::string& executable, const char* title, int s
   return result;
 }
 
-// A tick comes every 2 seconds.
-double PerTick(const IdleResult& idle) { return idle.perSecond * 2; }
-
-void MeasureTicks(const Options& options) {
+void MeasureIdles(const Options& options) {
   const auto bare = MeasureIdleOf(options.bare, BareTitle, options.idleSeconds);
   const auto program = MeasureIdleOf(options.program, ProgramTitle, options.idleSeconds);
-  PrintRow("processor time of an idle tick", PerTick(program), PerTick(bare), "ms", "");
-  PrintAlone("idle, share of a core", program.perSecond / 10, "%", "< 1 %");
+  PrintRow("idle, share of a core", program.share, "%", "1", {"bare window program", bare.share});
+  PrintRow("private memory when idle", program.memory, "KB", "",
+           {"bare window program", bare.memory});
 }
 
 void MeasureUnderLoad(const Options& options) {
-  if (options.engine.empty()) return;
   Probe program(options.program, "", ProgramTitle);
   program.WaitUntilIdle();
   Probe engine(options.engine, "--rate 1000 --seconds " + std::to_string(options.idleSeconds + 10),
                "");
   const auto idle = MeasureIdle(program, options.idleSeconds);
-  PrintAlone("1000 counts a second, share of a core", idle.perSecond / 10, "%", "< 1 %");
-  PrintAlone("1000 counts a second, slowest answer", idle.slowestAnswer, "ms", "< 100 ms");
+  PrintRow("1,000 counts a second, share of a core", idle.share, "%", "1");
+  PrintRow("1,000 counts a second, slowest answer", idle.slowestAnswer, "ms", "100");
   program.Close();
 }
 
@@ -139,7 +119,6 @@ bool ShowsUp(HWND panel) {
 
 void MeasureCommands(const Options& options) {
   Times shown;
-  Times ended;
   Times bare;
   Probe program(options.program, "", ProgramTitle);
   program.WaitUntilIdle();
@@ -149,11 +128,11 @@ void MeasureCommands(const Options& options) {
     Probe sender(options.program, row.command, ProgramTitle);
     if (!ShowsUp(panel)) std::printf("%s shows no %s\n", row.command, row.panel);
     shown.push_back(Now() - before);
-    ended.push_back(sender.WaitForEnd());
+    sender.WaitForEnd();
     bare.push_back(Probe(options.bare, "--exit", "").WaitForEnd());
   }
-  PrintRow("command: sender's start to panel shown", Median(shown), Median(bare), "ms", "<= 2");
-  PrintRow("command: sender's start to its end", Median(ended), Median(bare), "ms", "");
+  PrintRow("command: sender's start to panel shown", Median(shown), "ms", "x1.5",
+           {"bare process", Median(bare)});
   program.Close();
 }
 
@@ -172,43 +151,50 @@ constexpr std::array<LinkRow, 8> Links = {{
     {"frmMain.LnkLog", "FrmFrameLog"},
 }};
 
-void MeasureProgramSwitches(const Probe& program, Times& times) {
-  for (const LinkRow& row : Links) {
-    HWND link = program.Find(row.link);
-    HWND panel = program.Find(row.panel);
-    const double before = Now();
-    PostMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    PostMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    if (!ShowsUp(panel)) std::printf("%s shows no %s\n", row.link, row.panel);
-    program.RoundTrip();
-    times.push_back(Now() - before);
+constexpr int SwitchRounds = 3;
+
+Times MeasureProgramSwitches(const Options& options) {
+  Probe program(options.program, "", ProgramTitle);
+  program.WaitUntilIdle();
+  Times times;
+  for (int round = 0; round < SwitchRounds; ++round) {
+    for (const LinkRow& row : Links) {
+      HWND link = program.Find(row.link);
+      HWND panel = program.Find(row.panel);
+      const double before = Now();
+      PostMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+      PostMessageA(link, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+      if (!ShowsUp(panel)) std::printf("%s shows no %s\n", row.link, row.panel);
+      program.RoundTrip();
+      times.push_back(Now() - before);
+    }
   }
+  program.Close();
+  return times;
 }
 
-void MeasureBareSwitches(const Probe& bare, Times& times) {
-  for (UINT panel = 1; panel <= Links.size(); ++panel) {
+Times MeasureBareSwitches(const Options& options) {
+  Probe bare(options.bare, "", BareTitle);
+  bare.WaitUntilIdle();
+  Times times;
+  for (UINT turn = 0; turn < SwitchRounds * Links.size(); ++turn) {
     const double before = Now();
-    SendMessageA(bare.Main(), WM_APP + panel, 0, 0);
+    SendMessageA(bare.Main(), WM_APP + 1 + turn % Links.size(), 0, 0);
     bare.RoundTrip();
     times.push_back(Now() - before);
   }
+  bare.Close();
+  return times;
 }
 
 void MeasureSwitches(const Options& options) {
-  Times programTimes;
-  Times bareTimes;
-  {
-    Probe bare(options.bare, "", BareTitle);
-    bare.WaitUntilIdle();
-    for (int round = 0; round < 3; ++round) MeasureBareSwitches(bare, bareTimes);
-    bare.Close();
-  }
-  Probe program(options.program, "", ProgramTitle);
-  program.WaitUntilIdle();
-  for (int round = 0; round < 3; ++round) MeasureProgramSwitches(program, programTimes);
-  PrintRow("panel switch", Median(programTimes), Median(bareTimes), "ms", "< 50 ms");
-  PrintRow("panel switch, the slowest", Highest(programTimes), Highest(bareTimes), "ms", "< 50 ms");
-  program.Close();
+  const Times bare = MeasureBareSwitches(options);
+  const Times times = MeasureProgramSwitches(options);
+  PrintRow("panel switch", Median(times), "ms", "50", {"bare window program", Median(bare)});
+  const auto slowest = std::max_element(times.begin(), times.end()) - times.begin();
+  const std::string panel = Links[static_cast<std::size_t>(slowest) % Links.size()].panel;
+  PrintRow("panel switch, the slowest (" + panel + ")", Highest(times), "ms", "50",
+           {"bare window program", Highest(bare)});
 }
 
 constexpr const char* DialogTitle = "  Customize Toolbar - Vantrel";
@@ -255,37 +241,23 @@ void MeasureDialogs(const Options& options) {
   const Times programTimes =
       MeasureOpenings([&] { SendMessageA(button, BM_CLICK, 0, 0); }, DialogTitle);
   program.Close();
-  PrintRow("toolbar dialog, opened and painted", Median(programTimes), Median(bareTimes), "ms",
-           "<= 30 ms");
-  PrintRow("toolbar dialog, the slowest", Highest(programTimes), Highest(bareTimes), "ms", "");
-}
-
-double FileSize(const std::string& path) {
-  WIN32_FILE_ATTRIBUTE_DATA data{};
-  GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
-  return data.nFileSizeLow;
-}
-
-void PrintSize(const Options& options) {
-  const double size = FileSize(options.program);
-  PrintAlone("size of Vantrel.exe", size / 1024, "KB", size < WantedSize ? "< 1536 KB" : "TOO BIG");
+  PrintRow("toolbar's dialog opened and painted", Median(programTimes), "ms", "30",
+           {"bare dialog of as many controls", Median(bareTimes)});
 }
 
 int Run(const Options& options) {
-  PrintHead();
-  PrintSize(options);
   MeasureStarts(options);
   MeasureCommands(options);
   MeasureSwitches(options);
   MeasureDialogs(options);
   MeasureAllowLists(options.program);
-  MeasureTicks(options);
+  MeasureIdles(options);
   MeasureUnderLoad(options);
   return 0;
 }
 
 constexpr const char* Usage =
-    "usage: bench-startup VANTREL.EXE BARE.EXE [ENGINE-DOUBLE.EXE] [--runs N] [--idle SECONDS]\n";
+    "usage: bench-startup VANTREL.EXE BARE.EXE ENGINE-DOUBLE.EXE [--runs N] [--idle SECONDS]\n";
 
 // Positive numbers only; throws on anything else.
 int Number(const std::string& text) {
@@ -306,10 +278,10 @@ Options Parse(const std::vector<std::string>& arguments) {
     if (++index == arguments.size()) throw std::invalid_argument("a number is missing");
     (runs ? options.runs : options.idleSeconds) = Number(arguments[index]);
   }
-  if (files.size() < 2 || files.size() > 3) throw std::invalid_argument("programs are missing");
+  if (files.size() != 3) throw std::invalid_argument("programs are missing");
   options.program = files[0];
   options.bare = files[1];
-  if (files.size() == 3) options.engine = files[2];
+  options.engine = files[2];
   return options;
 }
 

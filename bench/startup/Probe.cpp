@@ -1,5 +1,7 @@
 #include "startup/Probe.h"
 
+#include <psapi.h>
+
 #include <stdexcept>
 
 namespace vantrel::bench {
@@ -137,6 +139,12 @@ double Probe::ProcessorTime() const {
   FILETIME user;
   GetProcessTimes(process_.hProcess, &created, &ended, &kernel, &user);
   return Milliseconds(kernel) + Milliseconds(user);
+}
+
+double Probe::PrivateKilobytes() const {
+  PROCESS_MEMORY_COUNTERS counters{};
+  GetProcessMemoryInfo(process_.hProcess, &counters, sizeof counters);
+  return static_cast<double>(counters.PagefileUsage) / 1024;
 }
 
 }  // namespace vantrel::bench

@@ -48,6 +48,7 @@ class Probe {
   double RoundTrip() const;
   // Milliseconds of processor time that the process has used.
   double ProcessorTime() const;
+  double PrivateKilobytes() const;
 
  private:
   bool IsReady();
