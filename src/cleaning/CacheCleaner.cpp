@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "cleaning/CleaningSizes.h"
+#include "cleaning/CleaningTarget.h"
 #include "cleaning/Scramble.h"
 #include "cleaning/WipeFolder.h"
 #include "settings/bmdlReg.h"
@@ -74,9 +75,15 @@ struct Cleaner {
     panel.pbarCache.SetValue(0);
     panel.pbarCache.SetMax(100);
     WipeFolder(program, path);
-    if (target.IndexFile != nullptr) ScrambleAndKill(program, path + target.IndexFile);
+    if (target.IndexFile != nullptr) CleanIndex(path, path + target.IndexFile);
     panel.pbarCache.SetValue(panel.pbarCache.Max());
     panel.pbarCache.SetVisible(false);
+  }
+
+  // The index of another folder, to which a link leads, is none of this one.
+  void CleanIndex(const std::string& top, const std::string& index) const {
+    if (!IsReachedWithoutLink(program.platform.folders, top, FolderAbove(index))) return;
+    ScrambleAndKill(program, index);
   }
 
   // The key is left empty; one with subkeys keeps its values, since the system does not delete it.

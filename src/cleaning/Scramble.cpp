@@ -55,7 +55,7 @@ std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, Random
 void ScrambleFile(Program& program, const std::string& path) {
   text::ErrorTrap trap;
   trap([&] {
-    fileutil::NumberedFile file(program, path, platform::FileAccess::ReadWrite);
+    fileutil::NumberedFile file(program, path, platform::FileAccess::ReadWriteNoLink);
     RandomNumbers random(program.platform.system.GetTickCount());
     for (const Overwrite& row : OverwritesOf(file.Length(), file.Number(), random)) {
       trap([&] { file.WriteAt(row.Offset, row.Bytes); });

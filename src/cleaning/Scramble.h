@@ -34,10 +34,11 @@ struct Overwrite {
 // i + 1, counted from 1. A file shorter than the limit grows by one byte.
 std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, RandomNumbers& random);
 
-// Overwrites an existing file in place. Errors are ignored.
+// Overwrites an existing file in place, never what a link leads to. Errors are ignored.
 void ScrambleFile(program::Program& program, const std::string& path);
 
-// Overwrites the file and deletes it; no effect on what is no cleaning target. Errors are ignored.
+// Overwrites the file and deletes it, of a link the link alone; no effect on what is no cleaning
+// target. Errors are ignored.
 void ScrambleAndKill(program::Program& program, const std::string& path);
 
 }  // namespace vantrel::cleaning

@@ -27,13 +27,15 @@ bool Is(const DirectoryEntry& entry, std::uint32_t attribute) {
   return (entry.Attributes & attribute) != 0;
 }
 
-// Folders and links to folders.
-bool IsFolderEntry(const DirectoryEntry& entry) {
-  return Is(entry, platform::AttributeDirectory) && !fileutil::IsDotEntry(entry);
-}
-
-fileutil::Listing AllEntries(Program& program, const std::string& folder) {
-  return fileutil::ListFiles(program.platform.folders, folder + "*.*", Everything);
+// The entries of the folder and the code of their listing, without those that the system would take
+// for something else under their path: dot entries, devices, names with a dot at their end.
+fileutil::Listing TargetsIn(Program& program, const std::string& folder) {
+  fileutil::Listing listing =
+      fileutil::ListFiles(program.platform.folders, folder + "*.*", Everything);
+  std::erase_if(listing.Entries, [&folder](const DirectoryEntry& entry) {
+    return !IsCleaningTarget(folder + entry.Name);
+  });
+  return listing;
 }
 
 forms::ProgressBar& Bar(Program& program) { return program.windows.FrmFrameHistory->pbarCache; }
@@ -58,37 +60,65 @@ void AdvanceForFolder(Program& program) {
   }
 }
 
-void DeleteWithForce(Program& program, const std::string& path, const DirectoryEntry& entry) {
+// Only a delete that is refused is preceded by a look: what stands there may have changed since it
+// was listed.
+void DeleteWithForce(Program& program, const std::string& path) {
   platform::Folders& folders = program.platform.folders;
-  if (Is(entry, platform::AttributeReadOnly)) {
-    folders.SetFileAttributesA(path, platform::AttributeNormal);
-  }
+  if (folders.DeleteFileA(path) != platform::ErrorAccessDenied) return;
+  const auto entry = EntryNow(folders, path);
+  if (!entry || Is(*entry, platform::AttributeDirectory)) return;
+  folders.SetFileAttributesA(path, platform::AttributeNormal);
   folders.DeleteFileA(path);
 }
 
-void WipeFile(Program& program, const std::string& path, const DirectoryEntry& entry) {
-  if (!Is(entry, platform::AttributeReparsePoint)) ScrambleFile(program, path);
-  DeleteWithForce(program, path, entry);
+void WipeFile(Program& program, const std::string& path) {
+  ScrambleFile(program, path);
+  DeleteWithForce(program, path);
   AdvanceForFile(program);
 }
 
-void KillSubFolder(Program& program, const std::string& path, const DirectoryEntry& entry) {
-  if (!Is(entry, platform::AttributeReparsePoint)) return KillFolderTree(program, path);
-  program.platform.folders.RemoveDirectoryA(path);
+// What the plain delete of a pattern removes.
+void DeleteOrdinaryFiles(Program& program, const std::string& folder) {
+  for (const DirectoryEntry& entry : TargetsIn(program, folder).Entries) {
+    if (!Is(entry, SparedByPattern)) program.platform.folders.DeleteFileA(folder + entry.Name);
+  }
+}
+
+void KillTree(Program& program, const std::string& top, const std::string& path);
+
+void KillSubFolders(Program& program, const std::string& top, const std::string& folder) {
+  const fileutil::Listing listing = TargetsIn(program, folder);
+  for (const DirectoryEntry& entry : listing.Entries) {
+    if (Is(entry, platform::AttributeDirectory)) KillTree(program, top, folder + entry.Name);
+  }
+  listing.RaiseError();
+}
+
+// Messages run in it, and with them whoever puts a link in a folder's place: what the path leads to
+// is looked at anew behind them.
+void KillTree(Program& program, const std::string& top, const std::string& path) {
+  platform::Folders& folders = program.platform.folders;
+  const std::string above = FolderAbove(path);
+  if (!IsReachedWithoutLink(folders, top, above)) return;
+  const auto entry = EntryNow(folders, path);
+  if (!entry || !Is(*entry, platform::AttributeDirectory)) return;
+  const std::string folder = path + '\\';
+  if (fileutil::IsSubFolder(*entry)) KillSubFolders(program, top, folder);
+  if (IsReachedWithoutLink(folders, top, above)) {
+    if (IsReachedWithoutLink(folders, above, path)) DeleteOrdinaryFiles(program, folder);
+    folders.RemoveDirectoryA(path);
+  }
   AdvanceForFolder(program);
 }
 
-// Whether the folder is there and still no link: messages have run since it was listed.
-bool IsFolderNow(Program& program, const std::string& path) {
-  std::vector<DirectoryEntry> itself;
-  program.platform.folders.ListFolder(path, itself);
-  return !itself.empty() && fileutil::IsSubFolder(itself.front());
-}
-
-bool HoldsNoFile(const fileutil::Listing& listing) {
-  return std::none_of(
-      listing.Entries.begin(), listing.Entries.end(),
-      [](const DirectoryEntry& entry) { return !Is(entry, platform::AttributeDirectory); });
+// False too for a folder that is gone or cannot be listed.
+bool HoldsNoFile(Program& program, const std::string& folder) {
+  std::vector<DirectoryEntry> entries;
+  const std::int32_t code = program.platform.folders.ListFolder(folder + "*.*", entries);
+  if (code != platform::ErrorSuccess && code != platform::ErrorFileNotFound) return false;
+  return std::all_of(entries.begin(), entries.end(), [](const DirectoryEntry& entry) {
+    return Is(entry, platform::AttributeDirectory);
+  });
 }
 
 }  // namespace
@@ -97,32 +127,19 @@ bool WipeFolder(Program& program, const std::string& path) {
   if (!IsCleaningTarget(path) || !program.platform.folders.FolderExists(path)) return false;
   const std::string folder = fileutil::WithBackslash(path);
   text::ErrorTrap trap;
-  const fileutil::Listing listing = AllEntries(program, folder);
-  for (const DirectoryEntry& entry : listing.Entries) {
+  for (const DirectoryEntry& entry : TargetsIn(program, folder).Entries) {
     if (Is(entry, platform::AttributeDirectory)) continue;
-    trap([&] { WipeFile(program, folder + entry.Name, entry); });
+    trap([&] { WipeFile(program, folder + entry.Name); });
   }
-  for (const DirectoryEntry& entry : listing.Entries) {
-    if (!IsFolderEntry(entry)) continue;
-    trap([&] { KillSubFolder(program, folder + entry.Name, entry); });
+  for (const DirectoryEntry& entry : TargetsIn(program, folder).Entries) {
+    if (!Is(entry, platform::AttributeDirectory)) continue;
+    trap([&] { KillFolderTree(program, folder + entry.Name); });
   }
-  return HoldsNoFile(AllEntries(program, folder));
+  return HoldsNoFile(program, folder);
 }
 
 void KillFolderTree(Program& program, const std::string& path) {
-  platform::Folders& folders = program.platform.folders;
-  if (!IsFolderNow(program, path)) return;
-  const std::string folder = fileutil::WithBackslash(path);
-  const fileutil::Listing listing = AllEntries(program, folder);
-  listing.RaiseError();
-  for (const DirectoryEntry& entry : listing.Entries) {
-    if (IsFolderEntry(entry)) KillSubFolder(program, folder + entry.Name, entry);
-  }
-  for (const DirectoryEntry& entry : listing.Entries) {
-    if (!Is(entry, SparedByPattern)) folders.DeleteFileA(folder + entry.Name);
-  }
-  folders.RemoveDirectoryA(path);
-  AdvanceForFolder(program);
+  KillTree(program, FolderAbove(path), path);
 }
 
 }  // namespace vantrel::cleaning

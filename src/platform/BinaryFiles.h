@@ -13,15 +13,19 @@ namespace vantrel::platform {
 
 using OpenFileHandle = std::uintptr_t;  // an open file; 0 is none
 
-enum class FileAccess { Read, ReadWrite };
+enum class FileAccess {
+  Read,
+  ReadWrite,
+  ReadWriteNoLink,  // a link is refused and not followed, as is a device
+};
 
 class BinaryFiles {
  public:
   virtual ~BinaryFiles() = default;
 
   // Opens an existing file; a missing one is not made. 2 if there is none, 3 for a missing folder,
-  // 5 for a folder, or a read-only file that is to be written, 32 if somebody has it for himself
-  // alone. The caller closes `opened`.
+  // 5 for a folder, a read-only file that is to be written, or what the access refuses, 32 if
+  // somebody has it for himself alone. The caller closes `opened`.
   virtual std::int32_t OpenFile(const std::string& path, FileAccess access,
                                 OpenFileHandle& opened) = 0;
 

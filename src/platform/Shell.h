@@ -37,7 +37,7 @@ inline constexpr std::size_t PathRoom = 260;
 
 // Only folders of the file system may be chosen.
 inline constexpr std::uint32_t BifReturnOnlyFsDirs = 1;
-// What the picker's callback is called for, and the message that selects a folder in it: with 1
+// What the picker's callback is called for, and the message that selects a folder in it: with -1
 // as first parameter the second is a path.
 inline constexpr std::uint32_t BffmInitialized = 1;
 inline constexpr std::uint32_t BffmSetSelectionA = 0x466;

@@ -13,7 +13,9 @@ const BinaryFilesView::File* BinaryFilesView::Find(OpenFileHandle file) const {
 
 std::int32_t BinaryFilesView::OpenFile(const std::string& path, FileAccess access,
                                        OpenFileHandle& opened) {
-  File file{nullptr, access == FileAccess::ReadWrite};
+  const bool isLink = (tree_.AttributesOf(path.c_str()) & AttributeReparsePoint) != 0;
+  if (access == FileAccess::ReadWriteNoLink && isLink) return ErrorAccessDenied;
+  File file{nullptr, access != FileAccess::Read};
   const std::int32_t code = tree_.Open(path.c_str(), file.writable, file.node);
   if (code != ErrorSuccess) return code;
   opened = next_++;

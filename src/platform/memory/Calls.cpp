@@ -66,6 +66,7 @@ void FaultPlan::FailEvery(std::string_view name, std::int32_t errorCode) {
 
 void FaultPlan::Clear() {
   failing_.clear();
+  entriesBeforeFailure_ = 0;
   for (auto& [name, of] : names_) {
     of.failing.clear();
     of.failingEvery.reset();

@@ -39,7 +39,8 @@ class Trace {
 
 // Counts every call of one process and says which fail. A failing call has no effect and gives
 // what it gives in the system when it fails: the error code where it returns one, else false, 0 or
-// nothing. Calls that cannot fail are counted and succeed. A name that no call has is a misuse.
+// nothing; a listing may give entries first. Calls that cannot fail are counted and succeed. A name
+// that no call has is a misuse.
 class FaultPlan {
  public:
   FaultPlan();
@@ -50,6 +51,9 @@ class FaultPlan {
   void FailCall(std::string_view name, std::size_t n, std::int32_t errorCode);
   // Every call of this name.
   void FailEvery(std::string_view name, std::int32_t errorCode);
+  // How many entries a listing of a folder gives before it fails; none at first.
+  void SetEntriesBeforeFailure(std::size_t entries) { entriesBeforeFailure_ = entries; }
+  std::size_t EntriesBeforeFailure() const { return entriesBeforeFailure_; }
   // Forgets the plan; the counters go on.
   void Clear();
 
@@ -73,6 +77,7 @@ class FaultPlan {
 
   std::size_t calls_ = 0;
   std::size_t failed_ = 0;
+  std::size_t entriesBeforeFailure_ = 0;
   std::map<std::size_t, std::int32_t> failing_;  // by number
   std::map<std::string_view, OneName> names_;
 };

@@ -500,8 +500,17 @@ class TracedFolders : public Traced<Folders> {
 
   std::int32_t ListFolder(const std::string& pattern,
                           std::vector<DirectoryEntry>& entries) override {
-    return gate_.Code(
-        "ListFolder", [&] { return next_.ListFolder(pattern, entries); }, pattern);
+    const auto list = [&] { return next_.ListFolder(pattern, entries); };
+    const std::size_t before = entries.size();
+    return gate_.Run(
+        "ListFolder", list,
+        [&](std::int32_t code) {
+          if (gate_.faults.EntriesBeforeFailure() == 0) return code;
+          list();
+          entries.resize(std::min(entries.size(), before + gate_.faults.EntriesBeforeFailure()));
+          return code;
+        },
+        pattern);
   }
 
   std::int32_t DeleteFileA(const std::string& path) override {
@@ -527,6 +536,18 @@ class TracedFolders : public Traced<Folders> {
   }
 };
 
+const char* AccessText(FileAccess access) {
+  switch (access) {
+    case FileAccess::Read:
+      return "read";
+    case FileAccess::ReadWrite:
+      return "write";
+    case FileAccess::ReadWriteNoLink:
+      return "write, no link";
+  }
+  return "";
+}
+
 class TracedBinaryFiles : public Traced<BinaryFiles> {
  public:
   using Traced::Traced;
@@ -534,8 +555,7 @@ class TracedBinaryFiles : public Traced<BinaryFiles> {
   std::int32_t OpenFile(const std::string& path, FileAccess access,
                         OpenFileHandle& opened) override {
     return gate_.Code(
-        "OpenFile", [&] { return next_.OpenFile(path, access, opened); }, path,
-        access == FileAccess::Read ? "read" : "write");
+        "OpenFile", [&] { return next_.OpenFile(path, access, opened); }, path, AccessText(access));
   }
 
   std::uint64_t FileLength(OpenFileHandle file) override {

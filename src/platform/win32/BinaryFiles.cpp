@@ -21,15 +21,28 @@ OVERLAPPED PlaceOf(std::uint64_t offset) {
   return place;
 }
 
+// Whether the file lies under its name itself; a device has no such information.
+bool IsFileItself(HANDLE file) {
+  BY_HANDLE_FILE_INFORMATION opened{};
+  return GetFileInformationByHandle(file, &opened) &&
+         (opened.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
 class BinaryFilesAdapter : public BinaryFiles {
  public:
   std::int32_t OpenFile(const std::string& path, FileAccess access,
                         OpenFileHandle& opened) override {
     const DWORD rights = access == FileAccess::Read ? GENERIC_READ : (GENERIC_READ | GENERIC_WRITE);
-    const HANDLE file =
-        CreateFileA(path.c_str(), rights, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const bool noLink = access == FileAccess::ReadWriteNoLink;
+    // What is looked at and written is what this call opened, whatever takes its name meanwhile.
+    const HANDLE file = CreateFileA(
+        path.c_str(), rights, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+        OPEN_EXISTING, noLink ? FILE_FLAG_OPEN_REPARSE_POINT : FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) return LastError();
+    if (noLink && !IsFileItself(file)) {
+      CloseFile(reinterpret_cast<OpenFileHandle>(file));
+      return ErrorAccessDenied;
+    }
     opened = reinterpret_cast<OpenFileHandle>(file);
     return ErrorSuccess;
   }

@@ -113,20 +113,108 @@ TEST_F(BadInput, FilesThatChangeMeanwhileGoAllTheSame) {
     world.files.Remove("C:\\wiped\\sub");
   };
   EXPECT_TRUE(WipeFolder(program, "C:\\wiped"));
-  EXPECT_THAT(world.files.List("C:\\wiped"), ElementsAre("e"));
+  // "e", which is a folder by now, goes with the folders.
+  EXPECT_THAT(world.files.List("C:\\wiped"), IsEmpty());
 }
 
-TEST_F(BadInput, AFolderThatBecomesALinkMeanwhileIsNotWalked) {
-  Put("C:\\outside\\f", "kept");
+// A folder outside, with what a link must not lead to.
+class LinksMeanwhile : public CleanPanel {
+ protected:
+  LinksMeanwhile() {
+    for (const char* name : {"a", "b", "f", "sub\\f"})
+      Put(std::string("C:\\outside\\") + name, "kept");
+    world.files.MakeFolder("C:\\outside\\empty");
+  }
+  // Replaces what stands under the path when the messages run for the n-th time.
+  void ReplaceAtPump(int pump, const std::string& path, const std::string& target) {
+    toolkit.DuringDoEvents = [this, pump, path, target] {
+      if (++pumps_ != pump) return;
+      world.files.Remove(path);
+      world.files.MakeLink(path, target);
+    };
+  }
+  void ExpectOutsideUntouched() {
+    for (const char* name : {"a", "b", "f", "sub\\f"}) {
+      EXPECT_EQ(world.files.Read(std::string("C:\\outside\\") + name), "kept") << name;
+    }
+    EXPECT_TRUE(Exists("C:\\outside\\empty"));
+  }
+
+ private:
+  int pumps_ = 0;
+};
+
+TEST_F(LinksMeanwhile, AFileThatBecomesALinkIsNotOverwrittenThroughIt) {
+  Put("C:\\wiped\\a");
+  Put("C:\\wiped\\b");
+  ReplaceAtPump(1, "C:\\wiped\\b", "C:\\outside\\b");
+  EXPECT_TRUE(WipeFolder(program, "C:\\wiped"));
+  ExpectOutsideUntouched();
+}
+
+TEST_F(LinksMeanwhile, AFolderThatBecomesALinkGoesAsALink) {
   Put("C:\\wiped\\a");
   Put("C:\\wiped\\sub\\f");
-  toolkit.DuringDoEvents = [&] {
-    world.files.Remove("C:\\wiped\\sub");
-    world.files.MakeLink("C:\\wiped\\sub", "C:\\outside");
+  ReplaceAtPump(1, "C:\\wiped\\sub", "C:\\outside");
+  WipeFolder(program, "C:\\wiped");
+  ExpectOutsideUntouched();
+  EXPECT_THAT(world.files.List("C:\\wiped"), IsEmpty());
+}
+
+TEST_F(LinksMeanwhile, AFolderThatBecomesALinkWhileItsSubfoldersGoLosesNothingBehindIt) {
+  Put("C:\\wiped\\sub\\f");
+  world.files.MakeFolder("C:\\wiped\\sub\\one");
+  ReplaceAtPump(1, "C:\\wiped\\sub", "C:\\outside");
+  WipeFolder(program, "C:\\wiped");
+  ExpectOutsideUntouched();
+  EXPECT_THAT(world.files.List("C:\\wiped"), IsEmpty());
+}
+
+TEST_F(LinksMeanwhile, SoDoesALinkFartherUp) {
+  for (const char* name : {"empty\\one", "sub\\one", "two"}) {
+    world.files.MakeFolder(std::string("C:\\wiped\\up\\") + name);
+  }
+  Put("C:\\wiped\\up\\sub\\f");
+  ReplaceAtPump(1, "C:\\wiped\\up", "C:\\outside");
+  WipeFolder(program, "C:\\wiped");
+  ExpectOutsideUntouched();
+}
+
+TEST_F(LinksMeanwhile, WhatIsMadeWhileFilesGoIsWipedWithTheFolders) {
+  Put("C:\\wiped\\a");
+  toolkit.DuringDoEvents = [this] {
+    Put("C:\\wiped\\new\\f");
+    toolkit.DuringDoEvents = nullptr;
+  };
+  EXPECT_TRUE(WipeFolder(program, "C:\\wiped"));
+  EXPECT_THAT(world.files.List("C:\\wiped"), IsEmpty());
+}
+
+TEST_F(LinksMeanwhile, AFoldersFilesAreThoseThatAreThereBehindItsSubfolders) {
+  Put("C:\\wiped\\sub\\hidden");
+  world.files.MakeFolder("C:\\wiped\\sub\\one");
+  toolkit.DuringDoEvents = [this] {
+    Put("C:\\wiped\\sub\\new");
+    world.files.SetHidden("C:\\wiped\\sub\\hidden", true);
     toolkit.DuringDoEvents = nullptr;
   };
   WipeFolder(program, "C:\\wiped");
-  EXPECT_EQ(world.files.Read("C:\\outside\\f"), "kept");
+  EXPECT_THAT(world.files.List("C:\\wiped\\sub"), ElementsAre("hidden"));
+}
+
+TEST_F(LinksMeanwhile, AFileThatBecomesReadOnlyGoesAllTheSame) {
+  Put("C:\\wiped\\a");
+  Put("C:\\wiped\\b");
+  toolkit.DuringDoEvents = [this] {
+    if (Exists("C:\\wiped\\b")) world.files.SetReadOnly("C:\\wiped\\b", true);
+  };
+  EXPECT_TRUE(WipeFolder(program, "C:\\wiped"));
+}
+
+TEST_F(LinksMeanwhile, AFolderThatVanishesHoldsNothingAndIsFalse) {
+  Put("C:\\wiped\\a");
+  toolkit.DuringDoEvents = [this] { world.files.Remove("C:\\wiped"); };
+  EXPECT_FALSE(WipeFolder(program, "C:\\wiped"));
 }
 
 }  // namespace

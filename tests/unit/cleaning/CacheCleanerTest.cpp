@@ -184,6 +184,28 @@ TEST_F(CacheCleaner, AHiddenIndexIsTriedOnceMoreByName) {
   EXPECT_TRUE(Exists(std::string(Internet) + "\\Content.IE5"));
 }
 
+TEST_F(CacheCleaner, TheIndexBehindALinkThatStaysIsLeftAlone) {
+  const std::string folder = std::string(Internet) + "\\Content.IE5";
+  Put("C:\\outside\\index.dat", "kept");
+  world.files.MakeLink(folder, "C:\\outside");
+  world.files.SetReadOnly(folder, true);
+  RefreshCleanPanel(program);
+  Delete();
+  EXPECT_TRUE(world.files.Exists(folder));
+  EXPECT_EQ(world.files.Read("C:\\outside\\index.dat"), "kept");
+}
+
+TEST_F(CacheCleaner, AnIndexThatIsAHiddenLinkGoesAndWhatItLeadsToStays) {
+  const std::string index = std::string(Internet) + "\\Content.IE5\\index.dat";
+  Put("C:\\outside\\f", "kept");
+  world.files.MakeLink(index, "C:\\outside\\f");
+  world.files.SetHidden(index, true);
+  RefreshCleanPanel(program);
+  Delete();
+  EXPECT_FALSE(world.files.Exists(index));
+  EXPECT_EQ(world.files.Read("C:\\outside\\f"), "kept");
+}
+
 TEST_F(CacheCleaner, TheBarShowsOnlyWhileAFolderIsCleaned) {
   Put(std::string(History) + "\\f");
   RefreshCleanPanel(program);

@@ -220,6 +220,22 @@ TEST_F(Cookies, DeleteRemovesOperasFile) {
   EXPECT_FALSE(Exists("C:\\Opera\\cookies.dat"));
 }
 
+TEST_F(Cookies, AFileThatIsALinkGoesAndWhatItLeadsToStays) {
+  Put("C:\\outside\\f", "kept");
+  Install("Opera.exe", "C:\\Opera");
+  world.files.MakeLink("C:\\Opera\\cookies.dat", "C:\\outside\\f");
+  Click(Panel().optOpera);
+  Click(Panel().cmddeleteCookies);
+  EXPECT_FALSE(world.files.Exists("C:\\Opera\\cookies.dat"));
+  Install("Netscp.exe", "C:\\Netscape");
+  world.files.MakeFolder("C:\\User\\Data\\Mozilla\\p");
+  world.files.MakeLink("C:\\User\\Data\\Mozilla\\p\\cookies.txt", "C:\\outside\\f");
+  Click(Panel().optNetscape);
+  Click(Panel().cmddeleteCookies);
+  EXPECT_FALSE(world.files.Exists("C:\\User\\Data\\Mozilla\\p\\cookies.txt"));
+  EXPECT_EQ(world.files.Read("C:\\outside\\f"), "kept");
+}
+
 TEST_F(Cookies, WhatStandsInTheTextBoxIsWhatIsDeleted) {
   Put("C:\\elsewhere\\a");
   Put("C:\\User\\Cookies\\kept");

@@ -84,13 +84,38 @@ TEST_F(WipedFolder, OnFoldersTheBarWrapsWithoutMessages) {
   EXPECT_EQ(Panel().pbarCache.Value(), 4);
 }
 
+TEST_F(WipedFolder, AFolderThatCannotBeListedAtTheEndIsFalse) {
+  Put("C:\\wiped\\f");
+  process.Faults().FailCall("ListFolder", 3, platform::ErrorAccessDenied);
+  EXPECT_FALSE(WipeFolder(program, Top));
+  EXPECT_THAT(process.Trace().LinesOf("ListFolder"), testing::SizeIs(3));
+  EXPECT_THAT(world.files.List(Top), IsEmpty());
+}
+
 TEST_F(WipedFolder, AFolderThatCannotBeListedIsPassedOver) {
   Put("C:\\wiped\\a\\f");
   Put("C:\\wiped\\b\\f");
-  process.Faults().FailCall("ListFolder", 2, platform::ErrorAccessDenied);
+  // Behind the listings of the files, of the subfolders and of "a" itself.
+  process.Faults().FailCall("ListFolder", 4, platform::ErrorAccessDenied);
   WipeFolder(program, Top);
+  EXPECT_EQ(process.Trace().LinesOf("ListFolder")[3], "ListFolder \"C:\\wiped\\a\\*.*\" -> 5");
   EXPECT_TRUE(Exists("C:\\wiped\\a\\f"));
   EXPECT_FALSE(Exists("C:\\wiped\\b"));
+}
+
+// The error ends the whole direct subfolder, and the bar moves neither for it nor for what is in
+// it.
+TEST_F(WipedFolder, ANestedFolderThatCannotBeListedKeepsWhatIsAboveItToo) {
+  Put("C:\\wiped\\a\\deep\\f");
+  Put("C:\\wiped\\a\\f");
+  Put("C:\\wiped\\b\\f");
+  // Its seventh: top, top, "a" itself, "a", then "a" and "deep" themselves, "deep".
+  process.Faults().FailCall("ListFolder", 7, platform::ErrorAccessDenied);
+  WipeFolder(program, Top);
+  EXPECT_TRUE(Exists("C:\\wiped\\a\\f"));
+  EXPECT_TRUE(Exists("C:\\wiped\\a\\deep\\f"));
+  EXPECT_FALSE(Exists("C:\\wiped\\b"));
+  EXPECT_EQ(Panel().pbarCache.Value(), 1);
 }
 
 TEST_F(WipedFolder, LinksAreRemovedThemselves) {
