@@ -200,6 +200,8 @@ Section
     ExecWait '"$INSTDIR\uninstall.exe" /S /UPGRADE _?=$INSTDIR'
   ${EndIf}
   ClearErrors
+  ; The page shows no names of the folder that files are unpacked to.
+  SetDetailsPrint none
   !insertmacro MoveFiles
   Delete "$INSTDIR\uninstall.exe"
   Rename "$INSTDIR\~setup\uninstall.exe" "$INSTDIR\uninstall.exe"
@@ -207,6 +209,7 @@ Section
     ${Refuse} "Some files could not be replaced while the setup was at work. Please close all programs and start it again.$\r$\n$\r$\n$INSTDIR"
   ${EndIf}
   RMDir /r "$INSTDIR\~setup"
+  SetDetailsPrint both
 
   SetShellVarContext all
   CreateShortCut "${SHORTCUT}" "$INSTDIR\Vantrel.exe"
@@ -221,6 +224,8 @@ Section
   WriteRegDWORD HKLM "${ENTRY}" "NoRepair" 1
   SectionGetSize 0 $0
   WriteRegDWORD HKLM "${ENTRY}" "EstimatedSize" $0
+  ; A folder may have been refused before another one was chosen.
+  SetErrorLevel 0
 SectionEnd
 
 ; Also when the system's own box has told that a file could not be unpacked. $0 is kept.
