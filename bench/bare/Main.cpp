@@ -27,7 +27,7 @@ constexpr int PanelTop = 60;
 constexpr int PanelWidth = 462;
 constexpr int PanelHeight = 304;
 constexpr UINT TickMilliseconds = 2000;
-constexpr UINT FirstPanelMessage = WM_APP;  // WM_APP + n shows panel n alone
+constexpr UINT FirstPanelMessage = WM_APP;  // WM_APP + n shows panel n alone, painted
 constexpr UINT OpenDialogMessage = WM_APP + 50;
 constexpr const char* CountersKey = "Software\\Qorvel Softwares\\Block Log";
 
@@ -189,6 +189,7 @@ void OpenDialog(HWND main) {
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
   if (message >= FirstPanelMessage && message < FirstPanelMessage + panels.size()) {
     ShowPanel(message - FirstPanelMessage);
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     return 0;
   }
   if (message == OpenDialogMessage) OpenDialog(window);

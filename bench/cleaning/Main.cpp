@@ -41,17 +41,23 @@ void Compare(const std::string& what, const char* mark, int runs, const Way& pre
   PrintRow(what, Median(times), "ms", mark, {plainly, Median(plainTimes)});
 }
 
-std::string FolderForFiles() {
+constexpr int FilesInFolder = 200;
+
+// The folders of so many files: few in each, because Wine reads a whole folder for each new file.
+std::vector<std::string> FoldersForFiles(int count) {
   char folder[MAX_PATH]{};
   GetTempPathA(sizeof folder, folder);
-  return std::string(folder) + "VantrelBench";
+  std::vector<std::string> folders;
+  for (int number = 0; number < count / FilesInFolder; ++number) {
+    folders.push_back(std::string(folder) + "VantrelBench" + std::to_string(number));
+  }
+  return folders;
 }
 
-void WriteFiles(int count, std::size_t size) {
-  const std::string folder = FolderForFiles();
+void WriteFiles(const std::string& folder, std::size_t size) {
   CreateDirectoryA(folder.c_str(), nullptr);
   const std::string content(size, 'x');
-  for (int number = 0; number < count; ++number) {
+  for (int number = 0; number < FilesInFolder; ++number) {
     HANDLE file = CreateFileA((folder + "\\f" + std::to_string(number)).c_str(), GENERIC_WRITE, 0,
                               nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
@@ -61,8 +67,8 @@ void WriteFiles(int count, std::size_t size) {
 }
 
 // Opens, writes, closes and deletes each file of a folder.
-void WipePlainly(std::size_t size) {
-  const std::string folder = FolderForFiles() + "\\";
+void WipePlainly(const std::string& path, std::size_t size) {
+  const std::string folder = path + "\\";
   const std::string content(std::min<std::size_t>(size + 1, 50001), 'y');
   WIN32_FIND_DATAA found{};
   HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);
@@ -104,17 +110,18 @@ void ListByCommand(const std::string& tree) {
   CloseHandle(process.hProcess);
 }
 
-void CompareWipes(program::Program& program, int runs) {
-  const std::string folder = FolderForFiles();
-  for (const auto& [count, size] : {std::pair{10000, 200}, std::pair{200, 1000000}}) {
-    const std::string what = "overwrite and delete " + std::to_string(count) + " files of " +
-                             std::to_string(size) + " bytes";
-    Compare(
-        what, "x1.2", runs, [&, c = count, s = size] { WriteFiles(c, s); },
-        [&] { cleaning::WipeFolder(program, folder); }, "open, write, close, delete",
-        [s = size] { WipePlainly(s); });
-  }
-  RemoveDirectoryA(folder.c_str());
+void CompareWipes(program::Program& program, int runs, int count, std::size_t size) {
+  const std::vector<std::string> folders = FoldersForFiles(count);
+  const auto each = [&folders](const auto& act) {
+    return [&folders, act] { std::for_each(folders.begin(), folders.end(), act); };
+  };
+  using Path = const std::string&;
+  Compare("overwrite and delete " + std::to_string(count) + " files of " + std::to_string(size) +
+              " bytes",
+          "x1.2", runs, each([=](Path folder) { WriteFiles(folder, size); }),
+          each([&](Path folder) { cleaning::WipeFolder(program, folder); }),
+          "open, write, close, delete", each([=](Path folder) { WipePlainly(folder, size); }));
+  for (Path folder : folders) RemoveDirectoryA(folder.c_str());
 }
 
 void CompareWalks(program::Program& program, const std::string& tree, int runs) {
@@ -138,7 +145,8 @@ int main(int count, char** arguments) {
   if (count < 2) return 2;
   const int runs = count > 2 ? std::max(1, std::atoi(arguments[2])) : 3;
   vantrel::e2e::RealProgram copy;
-  vantrel::bench::CompareWipes(copy.program, runs);
+  vantrel::bench::CompareWipes(copy.program, runs, 10000, 200);
+  vantrel::bench::CompareWipes(copy.program, runs, 200, 1000000);
   vantrel::bench::CompareWalks(copy.program, arguments[1], runs);
   return 0;
 }
