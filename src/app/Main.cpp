@@ -18,8 +18,10 @@ int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*tail*
   SetDllDirectoryA("");
   SetErrorMode(SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   const auto platform = platform::win32::MakeWin32Platform();
-  const auto toolkit = forms::win32::MakeWin32Toolkit(app::ProgramPictures());
-  program::Program program(platform->Platform(), *toolkit);
+  const platform::Platform families = platform->Platform();
+  const auto toolkit = forms::win32::MakeWin32Toolkit(
+      app::ProgramPictures(), [&families] { return families.system.HighContrast(); });
+  program::Program program(families, *toolkit);
   shell::AttachProgram(program);
   shell::Start(program);
   // Without a window nobody could end the program, nor start another copy.

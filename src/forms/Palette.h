@@ -47,7 +47,8 @@ inline constexpr Color HeadingFrom = Rgb(0x9C, 0xBC, 0xEA);
 inline constexpr Color HeadingTo = Rgb(0xD6, 0xE5, 0xFA);
 inline constexpr Color TitleFrom = Rgb(0x28, 0x55, 0xA4);
 inline constexpr Color TitleTo = Rgb(0x5F, 0x92, 0xDA);
-inline constexpr Color TitleText = Rgb(0xFF, 0xFF, 0xFF);
+// A shade off Card's: under high contrast each is replaced by another colour of the scheme.
+inline constexpr Color TitleText = Rgb(0xFE, 0xFE, 0xFF);
 inline constexpr Color ToolbarFrom = Rgb(0xFB, 0xFD, 0xFF);
 inline constexpr Color ToolbarTo = Rgb(0xCF, 0xE0, 0xF8);
 inline constexpr Color Figure = Rgb(0x1E, 0x3A, 0x6E);

@@ -46,6 +46,9 @@ class System {
   virtual std::string ShortDate() = 0;
   virtual std::string ShortTime() = 0;
 
+  // Whether the user has chosen a high-contrast scheme of colours, now.
+  virtual bool HighContrast() = 0;
+
   // Milliseconds since the system was started, modulo 2^32.
   virtual std::uint32_t GetTickCount() = 0;
 };

@@ -55,6 +55,7 @@ class MemorySubject : public Subject {
     world_.libraries.Register(
         path, {{"DllRegisterServer", [] { return 7; }}, {"Hang", memory::Libraries::Hangs}});
   }
+  void ChooseHighContrast(bool chosen) override { world_.highContrast = chosen; }
   void LetGo() override { world_.libraries.Release(); }
 
   WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) override {

@@ -48,6 +48,8 @@ class Subject {
   virtual void PutLibrary(const std::string& path) = 0;
   virtual void LetGo() = 0;
 
+  virtual void ChooseHighContrast(bool chosen) = 0;
+
   // A window of 100 by 50 pixels at the place, without title bar, visible; with a parent it is its
   // child. It takes texts and counts clicks (BmClick).
   virtual WindowHandle MakeWindow(WindowHandle parent, const std::string& caption, Point place) = 0;

@@ -58,6 +58,13 @@ TEST_P(SystemContract, ClaimEndsWithTheCopy) {
   EXPECT_FALSE(system_.PreviousInstanceRuns());
 }
 
+TEST_P(SystemContract, HighContrastIsAsTheUserChoseItLast) {
+  for (const bool chosen : {false, true, false}) {
+    subject_->ChooseHighContrast(chosen);
+    EXPECT_EQ(system_.HighContrast(), chosen);
+  }
+}
+
 TEST_P(SystemContract, CopyThatNeverAskedClaimsNothing) {
   subject_->StartAnother();
   EXPECT_FALSE(system_.PreviousInstanceRuns());

@@ -1,47 +1,44 @@
-// Turns the palette's colours into the screen's. Where the user has chosen high contrast or a dark
-// scheme, the program's own colours are replaced by those of the scheme; this is the one place for
-// that.
+// The palette's colours on this screen, as the user's scheme was when it was last looked at, and
+// the brushes of them.
 #ifndef VANTREL_FORMS_WIN32_COLORS_H_
 #define VANTREL_FORMS_WIN32_COLORS_H_
 
 #include <windows.h>
 
-#include <array>
+#include <functional>
 #include <map>
+#include <utility>
 
-#include "forms/Palette.h"
+#include "forms/ColorScheme.h"
 #include "forms/win32/Handles.h"
 
 namespace vantrel::forms::win32 {
 
 class Colors {
  public:
-  Colors() { Refresh(); }
+  // `highContrast` says whether the user has chosen high contrast.
+  explicit Colors(std::function<bool()> highContrast) : highContrast_(std::move(highContrast)) {
+    Refresh();
+  }
 
-  // Takes the user's scheme as it is now. Until the next time all is painted in that one: a paint
-  // between a change of colours and the message that reports it would mix the two.
-  void Refresh();
+  // Takes the user's scheme as it is now; false if it is the same. Until the next time all is
+  // painted in that one: a paint between a change of colours and the message that reports it would
+  // mix the two.
+  bool Refresh();
   // Whether the scheme's colours replace the program's own.
-  bool Contrast() const { return contrast_; }
+  bool Contrast() const { return scheme_.Contrast(); }
 
-  COLORREF Of(Color color) const;
+  COLORREF Of(Color color) const { return scheme_.Of(color); }
   // The colour of text on a ground: as wanted, or what of the scheme can be read there.
-  COLORREF TextOn(Color text, Color ground) const;
-  // A brush that lives until the next Refresh.
+  COLORREF TextOn(Color text, Color ground) const { return scheme_.TextOn(text, ground); }
+  // A brush that lives until the next Refresh that finds another scheme.
   HBRUSH BrushOf(Color color) const;
 
  private:
-  static constexpr int SchemeSize = 31;
-
-  COLORREF Screen(Color color) const;
-
-  std::array<COLORREF, SchemeSize> scheme_{};
-  bool contrast_ = false;
+  std::function<bool()> highContrast_;
+  ColorScheme scheme_;
   mutable std::map<COLORREF, Brush> brushes_;
 };
-
-// The contrast of two colours, from 1 to 21.
-double ContrastBetween(COLORREF one, COLORREF other);
 
 }  // namespace vantrel::forms::win32
 

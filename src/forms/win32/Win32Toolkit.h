@@ -48,8 +48,10 @@ class Win32Toolkit : public Toolkit {
   virtual void RunMessageLoop() = 0;
 };
 
-// One a process. Lists without a strip show no pictures.
-std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures);
+// One a process. Lists without a strip show no pictures. `highContrast` says whether the user has
+// chosen high contrast; it is asked at first and whenever Windows reports a change.
+std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures,
+                                               std::function<bool()> highContrast);
 
 }  // namespace vantrel::forms::win32
 

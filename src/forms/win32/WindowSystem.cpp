@@ -32,8 +32,9 @@ void LoadCommonControls() {
 
 }  // namespace
 
-WindowSystem::WindowSystem(win32::Pictures pictures)
+WindowSystem::WindowSystem(win32::Pictures pictures, std::function<bool()> highContrast)
     : Pixels(DeclareDpiAware()),
+      Palette(std::move(highContrast)),
       Typefaces(Pixels),
       Images(std::move(pictures), Pixels),
       TaskbarCreatedMessage(RegisterWindowMessageA("TaskbarCreated")) {
@@ -142,8 +143,9 @@ void WindowSystem::RefreshPointer() const {
                MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
-std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures) {
-  return std::make_unique<WindowSystem>(std::move(pictures));
+std::unique_ptr<Win32Toolkit> MakeWin32Toolkit(Pictures pictures,
+                                               std::function<bool()> highContrast) {
+  return std::make_unique<WindowSystem>(std::move(pictures), std::move(highContrast));
 }
 
 }  // namespace vantrel::forms::win32

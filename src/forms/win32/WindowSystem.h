@@ -24,7 +24,7 @@ class Window;
 
 class WindowSystem final : public Win32Toolkit {
  public:
-  explicit WindowSystem(Pictures pictures);
+  WindowSystem(Pictures pictures, std::function<bool()> highContrast);
 
   std::unique_ptr<FormPeer> MakeWindow(Form& form) override;
   double TwipsPerPixelX() const override { return Pixels.TwipsPerPixel(); }

@@ -67,6 +67,7 @@ inline constexpr auto CallNames = std::to_array<std::string_view>({
     "ThousandsSeparator",
     "ShortDate",
     "ShortTime",
+    "HighContrast",
     "GetTickCount",
     // Modules
     "LoadLibraryA",

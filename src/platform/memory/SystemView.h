@@ -24,6 +24,7 @@ class SystemView : public System {
   // As in the United States of America.
   std::string ShortDate() override;
   std::string ShortTime() override;
+  bool HighContrast() override { return world_.highContrast; }
   std::uint32_t GetTickCount() override { return static_cast<std::uint32_t>(world_.clock.Now()); }
 
  private:

@@ -428,6 +428,10 @@ class TracedSystem : public Traced<System> {
     return gate_.Sure("ShortTime", [&] { return next_.ShortTime(); });
   }
 
+  bool HighContrast() override {
+    return gate_.Sure("HighContrast", [&] { return next_.HighContrast(); });
+  }
+
   std::uint32_t GetTickCount() override {
     return gate_.Sure("GetTickCount", [&] { return next_.GetTickCount(); });
   }

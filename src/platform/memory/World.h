@@ -75,6 +75,9 @@ struct World {
   // The user's formats.
   std::string thousandsSeparator = ",";
 
+  // The user's scheme of colours.
+  bool highContrast = false;
+
   // The calls of all processes.
   Trace trace;
 

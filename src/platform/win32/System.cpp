@@ -107,6 +107,13 @@ class SystemAdapter : public System {
     });
   }
 
+  bool HighContrast() override {
+    HIGHCONTRASTA chosen{};
+    chosen.cbSize = sizeof chosen;
+    return SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof chosen, &chosen, 0) &&
+           (chosen.dwFlags & HCF_HIGHCONTRASTON) != 0;
+  }
+
   std::uint32_t GetTickCount() override { return ::GetTickCount(); }
 
  private:

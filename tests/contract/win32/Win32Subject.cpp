@@ -9,6 +9,7 @@
 #include "contract/Subject.h"
 #include "platform/win32/Handle.h"
 #include "platform/win32/Win32Platform.h"
+#include "support/win32/HighContrast.h"
 
 namespace vantrel::platform::contract {
 namespace {
@@ -60,6 +61,11 @@ class Win32Subject : public Subject {
   }
 
   platform::Platform Platform() override { return own_->Platform(); }
+
+  // Not for the whole desktop: every other program would follow.
+  void ChooseHighContrast(bool chosen) override {
+    ASSERT_TRUE(tests::ChooseHighContrast(GetModuleHandleA(nullptr), chosen));
+  }
 
   platform::Platform StartAnother() override {
     another_ = win32::MakeWin32Platform();

@@ -105,7 +105,8 @@ void Dress(windows::frmMain& main) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  const auto toolkit = forms::win32::MakeWin32Toolkit(tests::ProgramPictures());
+  const auto toolkit =
+      forms::win32::MakeWin32Toolkit(tests::ProgramPictures(), [] { return false; });
   windows::frmMain main(*toolkit);
   main.Unloading = [&](bool&) { toolkit->End(); };
   main.EnsureLoaded();

@@ -52,7 +52,7 @@ using Events = std::vector<std::string>;
 class RealLinks : public testing::Test {
  protected:
   RealLinks()
-      : toolkit_(MakeWin32Toolkit(tests::ProgramPictures())),
+      : toolkit_(MakeWin32Toolkit(tests::ProgramPictures(), [] { return false; })),
         system_(platform::win32::MakeWin32Platform()),
         platform_(system_->Platform()),
         form_(*toolkit_) {

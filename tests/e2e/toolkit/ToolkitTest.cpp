@@ -141,7 +141,9 @@ void SetText(HWND window, const char* text) {
 
 class RealWindows : public testing::Test {
  protected:
-  RealWindows() : toolkit(MakeWin32Toolkit(tests::ProgramPictures())), form(*toolkit) {
+  RealWindows()
+      : toolkit(MakeWin32Toolkit(tests::ProgramPictures(), [this] { return highContrast; })),
+        form(*toolkit) {
     form.EnsureLoaded();
     form.Show();
     toolkit->DoEvents();
@@ -160,6 +162,7 @@ class RealWindows : public testing::Test {
     toolkit->DoEvents();
   }
 
+  bool highContrast = false;
   std::unique_ptr<Win32Toolkit> toolkit;
   Everything form;
 };
@@ -699,7 +702,7 @@ std::vector<int> HighlightedRows(HWND list, int count) {
   const std::vector<COLORREF> pixels = Painted(list);
   RECT inside{};
   GetClientRect(list, &inside);
-  const COLORREF highlight = Colors().Of(palette::Highlight);
+  const COLORREF highlight = Colors([] { return false; }).Of(palette::Highlight);
   std::vector<int> rows;
   for (int row = 1; row <= count; ++row) {
     RECT area{LVIR_LABEL, 0, 0, 0};
@@ -998,7 +1001,7 @@ TEST_F(RealWindows, AControlOfAHiddenWindowIsThereWhenItsHandleIsAskedFor) {
 
 // Windows changes the colours first and reports it then; what is painted between is of one scheme.
 TEST(SchemeColors, StayAsTheyWereUntilTheProgramIsTold) {
-  Colors colors;
+  Colors colors([] { return false; });
   const int index = COLOR_WINDOWTEXT;
   const COLORREF before = GetSysColor(index);
   const COLORREF other = before ^ 0xFFFFFFU;
