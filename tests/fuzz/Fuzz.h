@@ -19,6 +19,7 @@ class Input {
     const std::string taken = Take(1);
     return taken.empty() ? 0 : static_cast<std::uint8_t>(taken[0]);
   }
+  bool Empty() const { return bytes_.empty(); }
   // A text whose length stands before it in a byte.
   std::string Text() { return Take(Byte()); }
   std::string Rest() { return Take(bytes_.size()); }
@@ -33,6 +34,21 @@ class Input {
 
   std::string bytes_;
 };
+
+// The bytes over and over, until they are longer than the program's buffer for a value.
+inline std::string BeyondTheBuffer(const std::string& bytes) {
+  std::string longer = bytes.empty() ? "0" : bytes;
+  while (longer.size() <= 1024) longer += longer;
+  return longer;
+}
+
+// One input in `many`, chosen by its bytes: for a check that takes its time. A fuzzer that likes
+// what the check reaches cannot steer it.
+inline bool IsOneIn(std::size_t many, const std::string& bytes) {
+  std::uint32_t hash = 2166136261U;
+  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+  return hash % many == 0;
+}
 
 inline void Check(bool holds, const char* what) {
   if (holds) return;

@@ -20,6 +20,7 @@ struct Running {
     shell::AttachProgram(copy->program);
     shell::Start(copy->program);
     copy->Windows().frmMain->Text1.SetText("");
+    copy->process.Trace().Stop();
   }
 
   platform::memory::World world;
@@ -54,7 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Send(running, button, input.Rest());
   Check(!running.copy->toolkit.Ending(), "no command ends the program");
   Check(running.copy->process.OpenKeys() == 0, "no key stays open");
-  running.copy->process.Trace().Clear();
   running.copy->process.ClearBoxes();
   return 0;
 }

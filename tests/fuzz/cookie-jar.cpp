@@ -1,6 +1,7 @@
 // Cookie jars of any bytes: the list has the hosts that a plain reading finds, up to the line that
 // ends it, and the click is silent.
 #include "cleaning/Attach.h"
+#include "cleaning/Cookies.h"
 #include "fileutil/bmdlCookies.h"
 #include "fuzz/Fuzz.h"
 #include "support/ProgramFixture.h"
@@ -22,6 +23,7 @@ struct Running {
                              "Path", "C:\\Netscape");
     copy = std::make_unique<test::Copy>(world);
     cleaning::AttachCleaning(copy->program);
+    copy->process.Trace().Stop();
   }
 
   windows::FrmFrameHistory& Panel() { return *copy->Windows().FrmFrameHistory; }
@@ -60,27 +62,44 @@ std::vector<std::string> PlainHosts(const std::string& jar, bool& whole) {
   return hosts;
 }
 
+// Whether the reading came to the jar's end.
+bool ReadsWhole(Running& running) {
+  try {
+    cleaning::ReadNetscapeCookies(running.copy->program, Jar);
+    return true;
+  } catch (const text::RuntimeError& error) {
+    Check(error.Number() == text::ErrorNumber::InvalidProcedureCall, "a line ends it by error 5");
+    return false;
+  }
+}
+
+// The same by the option's click, which looks for the jar and shows its size.
+bool ClickShowsSize(Running& running) {
+  windows::FrmFrameHistory& panel = running.Panel();
+  panel.lblcookies.SetCaption("before");
+  panel.optOpera.SetValue(true);
+  panel.optNetscape.SetValue(true);
+  Check(running.copy->process.Boxes().empty(), "no box comes up");
+  return panel.lblcookies.Caption().ends_with(" Kbs");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static Running running;
   const std::string jar(data, data + size);
   running.world.files.Put(Jar, jar);
-  windows::FrmFrameHistory& panel = running.Panel();
-  panel.lblcookies.SetCaption("before");
-  panel.optOpera.SetValue(true);
-  panel.optNetscape.SetValue(true);
   bool whole = false;
   const std::vector<std::string> hosts = PlainHosts(jar, whole);
+  const bool clicks = fuzz::IsOneIn(256, jar);
+  Check((clicks ? ClickShowsSize(running) : ReadsWhole(running)) == whole,
+        "a reading ends where the plain one does");
+  windows::FrmFrameHistory& panel = running.Panel();
   Check(panel.urls.Count() == static_cast<int>(hosts.size()), "the list has the jar's hosts");
   for (std::size_t row = 0; row < hosts.size(); ++row) {
     const forms::ListItem& item = panel.urls.Item(static_cast<int>(row) + 1);
     Check(item.Text() == hosts[row], "a row has its host");
     Check(item.Key() == "NC" + std::to_string(row + 1), "a row has its key");
   }
-  Check(panel.lblcookies.Caption().ends_with(" Kbs") == whole, "only a whole jar shows its size");
-  Check(running.copy->process.Boxes().empty(), "no box comes up");
-  running.copy->process.Trace().Clear();
-  running.world.trace.Clear();
   return 0;
 }

@@ -22,6 +22,7 @@ struct Running {
     cleaning::AttachCleaning(copy.program);
     for (const char* name : Names) world.files.Put(std::string("C:\\d\\") + name, "x");
     Plant();
+    copy.process.Trace().Stop();
   }
   void Plant() {
     world.files.Put("C:\\kept", "x");
@@ -82,7 +83,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string target = input.Rest();
   // The listed folder is to stay as it is.
   if (text::LowerCase(target).find("d") == std::string::npos) CheckTarget(running, target);
-  running.copy.process.Trace().Clear();
-  running.world.trace.Clear();
   return 0;
 }

@@ -47,8 +47,7 @@ struct Running {
     Plant(HKeyCurrentUser, Browser + "MenuExt");
     Plant(HKeyLocalMachine, test::ToolbarKey);
     Plant(HKeyClassesRoot, "CLSID");
-    constexpr int Most = 24;
-    for (int entry = 0; entry < Most; ++entry) {
+    while (!input.Empty()) {
       const std::uint8_t what = input.Byte();
       const std::string name = input.Text();
       const std::string data = input.Text();

@@ -61,11 +61,13 @@ void TryUpdate(platform::Registry& registry, platform::memory::RegistryTree& tre
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Input input(data, size);
-  const std::uint32_t type = input.Byte() % 12;
+  const std::uint8_t kind = input.Byte();
+  const std::uint32_t type = kind % 12;
   const std::string text = input.Text();
-  const std::string bytes = input.Rest();
-  platform::memory::World world;
-  platform::memory::Process process(world);
+  const std::string rest = input.Rest();
+  const std::string bytes = kind < 240 ? rest : fuzz::BeyondTheBuffer(rest);
+  static platform::memory::World world;
+  static platform::memory::Process process(world);
   platform::Registry& registry = process.Platform().registry;
   world.registry.Set(HKeyCurrentUser, Key, Name, type, bytes);
   TryReading(registry, *world.registry.Get(HKeyCurrentUser, Key, Name));

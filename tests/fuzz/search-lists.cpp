@@ -18,6 +18,7 @@ struct Running {
     }
     world.files.SetHidden("C:\\a\\b\\g", true);
     world.files.MakeLink("C:\\a\\b\\link", "C:\\a");
+    copy.process.Trace().Stop();
   }
 
   platform::memory::World world;
@@ -92,7 +93,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckCut(folders, delimiters);
   CheckCut(patterns, "");
   CheckSearch(running, folders, patterns);
-  running.copy.process.Trace().Clear();
-  running.world.trace.Clear();
   return 0;
 }

@@ -23,11 +23,19 @@ constexpr std::array<RootRow, 5> Roots{{
     {HKeyCurrentConfig, "HKCC", "HKEY_CURRENT_CONFIG"},
 }};
 
-auto PlaceOf(const RegistryKey& key, const std::string& folded) {
-  return std::lower_bound(key.subkeys.begin(), key.subkeys.end(), folded,
-                          [](const auto& subkey, const std::string& name) {
-                            return text::UpperCase(subkey->name) < name;
-                          });
+// The order of folded names, without a folded copy of each.
+bool ComesBefore(std::string_view one, std::string_view other) {
+  const auto fold = [](char c) {
+    return static_cast<unsigned char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+  };
+  return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
+                                      [fold](char a, char b) { return fold(a) < fold(b); });
+}
+
+auto PlaceOf(const RegistryKey& key, std::string_view subkeyName) {
+  return std::lower_bound(
+      key.subkeys.begin(), key.subkeys.end(), subkeyName,
+      [](const auto& subkey, std::string_view name) { return ComesBefore(subkey->name, name); });
 }
 
 // An open handle may keep a deleted key longer than its parent lives.
@@ -51,10 +59,10 @@ std::vector<std::string> PathParts(std::string_view path) {
 }
 
 RegistryKey* RegistryKey::Subkey(std::string_view subkeyName) const {
-  const std::string folded = text::UpperCase(subkeyName);
-  const auto place = PlaceOf(*this, folded);
-  return place != subkeys.end() && text::UpperCase((*place)->name) == folded ? place->get()
-                                                                             : nullptr;
+  const auto place = PlaceOf(*this, subkeyName);
+  return place != subkeys.end() && text::EqualIgnoringCase((*place)->name, subkeyName)
+             ? place->get()
+             : nullptr;
 }
 
 RegistryKey& RegistryKey::MakeSubkey(std::string_view subkeyName) {
@@ -62,7 +70,7 @@ RegistryKey& RegistryKey::MakeSubkey(std::string_view subkeyName) {
   auto made = std::make_shared<RegistryKey>();
   made->name = subkeyName;
   made->parent = this;
-  return **subkeys.insert(PlaceOf(*this, text::UpperCase(subkeyName)), std::move(made));
+  return **subkeys.insert(PlaceOf(*this, subkeyName), std::move(made));
 }
 
 RegistryValue* RegistryKey::Value(std::string_view valueName) {
