@@ -2,6 +2,8 @@
 // call failing: each ends with its fixed texts, and the next one does its work.
 #include <gmock/gmock.h>
 
+#include <utility>
+
 #include "fileutil/bmdlCookies.h"
 #include "shell/Navigation.h"
 #include "unit/shell/FaultSweep.h"
@@ -95,7 +97,7 @@ void ExpectCleanPanelUsable(Machine& machine) {
 
 TEST(CleaningFaultSweep, Scan) {
   Sweep(
-      OpenCleanPanel,
+      "Clean: scan", OpenCleanPanel,
       [](Machine& machine) { EXPECT_TRUE(machine.copy->user.Click(Panel(machine).lblRefresh)); },
       [](Machine& machine) {
         EXPECT_EQ(Panel(machine).lblcleaningstatus.Caption(), "Ready to clean");
@@ -108,7 +110,7 @@ TEST(CleaningFaultSweep, Scan) {
 
 TEST(CleaningFaultSweep, Clean) {
   Sweep(
-      OpenScannedPanel,
+      "Clean: clean", OpenScannedPanel,
       [](Machine& machine) {
         EXPECT_TRUE(machine.copy->user.Click(Panel(machine).CmdDeleteCache));
       },
@@ -122,44 +124,47 @@ TEST(CleaningFaultSweep, Clean) {
       });
 }
 
+constexpr std::pair<const char*, forms::OptionButton FrmFrameHistory::*> Options[] = {
+    {"Internet Explorer's", &FrmFrameHistory::optIE},
+    {"Netscape's", &FrmFrameHistory::optNetscape},
+    {"Opera's", &FrmFrameHistory::optOpera}};
+
 TEST(CleaningFaultSweep, EachCookieOption) {
-  for (forms::OptionButton FrmFrameHistory::*option :
-       {&FrmFrameHistory::optIE, &FrmFrameHistory::optNetscape, &FrmFrameHistory::optOpera}) {
+  for (const auto& [browser, option] : Options) {
     Sweep(
-        [option](Machine& machine) {
+        std::string("Cookies: list ") + browser,
+        [option = option](Machine& machine) {
           OpenScannedPanel(machine);
           // A click on the option that is set would be none.
           if (option == &FrmFrameHistory::optIE) Panel(machine).optOpera.SetValue(true);
         },
-        [option](Machine& machine) {
+        [option = option](Machine& machine) {
           EXPECT_TRUE(machine.copy->user.Click(Panel(machine).*option));
         },
         [](Machine& machine) {
           ExpectAtRest(machine);
           ExpectCleanPanelUsable(machine);
-        },
-        5);
+        });
   }
 }
 
 TEST(CleaningFaultSweep, DeleteOfCookies) {
-  for (forms::OptionButton FrmFrameHistory::*option :
-       {&FrmFrameHistory::optIE, &FrmFrameHistory::optNetscape, &FrmFrameHistory::optOpera}) {
+  for (const auto& [browser, option] : Options) {
     Sweep(
-        [option](Machine& machine) {
+        std::string("Cookies: delete ") + browser,
+        [option = option](Machine& machine) {
           OpenScannedPanel(machine);
           (Panel(machine).*option).SetValue(true);
         },
         [](Machine& machine) {
           EXPECT_TRUE(machine.copy->user.Click(Panel(machine).cmddeleteCookies));
         },
-        [option](Machine& machine) {
+        [option = option](Machine& machine) {
           EXPECT_TRUE((Panel(machine).*option).Value());
           EXPECT_EQ(Panel(machine).txtcookies.Text().empty(), false);
           ExpectAtRest(machine);
           ExpectCleanPanelUsable(machine);
-        },
-        10);
+        });
   }
 }
 

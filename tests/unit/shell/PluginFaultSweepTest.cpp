@@ -69,7 +69,7 @@ void ExpectListed(Machine& machine, const std::vector<std::string>& names) {
 
 TEST(PluginFaultSweep, Load) {
   Sweep(
-      OpenPlugins,
+      "IE Plugins: load", OpenPlugins,
       [](Machine& machine) { EXPECT_TRUE(machine.copy->user.Click(Panel(machine).cmdRefreshBHO)); },
       [](Machine& machine) {
         // Of a source's own failures only those of the plug-in folder are spoken of.
@@ -89,8 +89,7 @@ TEST(PluginFaultSweep, Load) {
         }
         ExpectListed(machine, AllNames);
         machine.ExpectUsable();
-      },
-      20);
+      });
 }
 
 // The calls without which the thing itself cannot go.
@@ -100,9 +99,9 @@ bool FailedRemoval(const Machine& machine) {
          (machine.FailedIs("RegOpenKeyExA ") && machine.FailedIn("Toolbar 0xF003F"));
 }
 
-void SweepRemoval(const std::string& name) {
+void SweepRemoval(const char* operation, const std::string& name) {
   Sweep(
-      OpenPlugins,
+      operation, OpenPlugins,
       [&name](Machine& machine) {
         forms::ListView& list = Panel(machine).lstBHO;
         for (int row = 1; row <= list.Count(); ++row) {
@@ -123,15 +122,20 @@ void SweepRemoval(const std::string& name) {
         if (!FailedRemoval(machine)) std::erase(names, name);
         ExpectListed(machine, names);
         machine.ExpectUsable();
-      },
-      20);
+      });
 }
 
-TEST(PluginFaultSweep, RemovalOfAHelperObject) { SweepRemoval("Helper"); }
-TEST(PluginFaultSweep, RemovalOfALibrary) { SweepRemoval("Library"); }
-TEST(PluginFaultSweep, RemovalOfAToolbar) { SweepRemoval("Bar"); }
-TEST(PluginFaultSweep, RemovalOfAMenuExtension) { SweepRemoval("Entry"); }
-TEST(PluginFaultSweep, RemovalOfAButton) { SweepRemoval("Button"); }
+TEST(PluginFaultSweep, RemovalOfAHelperObject) {
+  SweepRemoval("IE Plugins: remove a helper object", "Helper");
+}
+TEST(PluginFaultSweep, RemovalOfALibrary) {
+  SweepRemoval("IE Plugins: remove a library", "Library");
+}
+TEST(PluginFaultSweep, RemovalOfAToolbar) { SweepRemoval("IE Plugins: remove a toolbar", "Bar"); }
+TEST(PluginFaultSweep, RemovalOfAMenuExtension) {
+  SweepRemoval("IE Plugins: remove a menu extension", "Entry");
+}
+TEST(PluginFaultSweep, RemovalOfAButton) { SweepRemoval("IE Plugins: remove a button", "Button"); }
 
 }  // namespace
 }  // namespace vantrel::shell
