@@ -50,9 +50,9 @@ class ResourcesTest : public SoakTest {
 TEST_F(ResourcesTest, AllPanelsAndDialogsManyTimesCostNothing) {
   const Running program;
   ASSERT_TRUE(program.WaitUntilIdle());
-  ShowEverything(program, Count({10, 50}));
+  ShowEverything(program, Count({5, 50}));
   const Resources before = ResourcesOf(program.Process());
-  const int rounds = Count({20, 500});
+  const int rounds = Count({10, 500});
   ShowEverything(program, rounds);
   const Resources after = ResourcesOf(program.Process());
   std::printf("%d rounds: %s before, %s after\n", rounds, Show(before).c_str(),

@@ -391,14 +391,16 @@ std::vector<DWORD> ProcessesOf(const std::string& executable) {
   return processes;
 }
 
-void EndAllCopies() {
-  for (const DWORD copy : ProcessesOf("Vantrel.exe")) {
-    HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, copy);
+void EndAll(const std::string& executable) {
+  for (const DWORD found : ProcessesOf(executable)) {
+    HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, found);
     if (process == nullptr) continue;
     TerminateProcess(process, 98);
     WaitForSingleObject(process, AnswerBound);
     CloseHandle(process);
   }
 }
+
+void EndAllCopies() { EndAll("Vantrel.exe"); }
 
 }  // namespace vantrel::e2e

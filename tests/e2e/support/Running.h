@@ -118,6 +118,8 @@ std::string ClassOf(HWND window);
 
 // The processes that run from a file of this name.
 std::vector<DWORD> ProcessesOf(const std::string& executable);
+// Ends them all.
+void EndAll(const std::string& executable);
 // Ends every running copy; for sweeping before a case.
 void EndAllCopies();
 
