@@ -128,7 +128,7 @@ class MessageStormTest : public SoakTest {
     const std::vector<HWND> windows = program_->AllWindows();
     ASSERT_FALSE(windows.empty());
     memory_->Write(std::string(MemorySize, '\0').data(), MemorySize);
-    for (int sent = 0; sent < count; ++sent) {
+    for (int sent = 0; sent < count && !HasFailure(); ++sent) {
       const Message message = Choose(OneOf(windows));
       if (message.number != 0 && !Send(message)) Settle();
     }
