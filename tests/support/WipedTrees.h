@@ -29,7 +29,8 @@ using Tree = std::map<std::string, TreeNode>;
 // Whether the system can remove a link itself.
 enum class LinkRemoval { IsPossible, IsRefused };
 
-// What wiping leaves of the tree below `top`.
+// What cleaning leaves of the tree below `top`: its wiping, and then the delete of an index by its
+// name in the folder for it.
 class WipeModel {
  public:
   explicit WipeModel(Tree tree, LinkRemoval removal = LinkRemoval::IsPossible)
@@ -43,10 +44,21 @@ class WipeModel {
     for (const std::string& path : ChildrenOf(top)) {
       if (tree_[path].folder) Kill(path);
     }
+    TryIndexOf(top);
     return tree_;
   }
 
  private:
+  // A link is deleted itself, in a folder that is none.
+  void TryIndexOf(const std::string& top) {
+    const auto folder = tree_.find(top + "\\Content.IE5");
+    const auto index = tree_.find(top + "\\Content.IE5\\index.dat");
+    if (folder == tree_.end() || !folder->second.target.empty() || index == tree_.end()) return;
+    const TreeNode& file = index->second;
+    const bool isReadOnly = (file.attributes & platform::AttributeReadOnly) != 0;
+    if (!file.folder && !file.locked && !isReadOnly) tree_.erase(index);
+  }
+
   std::vector<std::string> ChildrenOf(const std::string& folder) const {
     std::vector<std::string> children;
     for (const auto& [path, node] : tree_) {
@@ -60,7 +72,8 @@ class WipeModel {
 
   void Kill(const std::string& path) {
     if (!tree_[path].target.empty()) {
-      if (removal_ == LinkRemoval::IsPossible) tree_.erase(path);
+      const bool isReadOnly = (tree_[path].attributes & platform::AttributeReadOnly) != 0;
+      if (removal_ == LinkRemoval::IsPossible && !isReadOnly) tree_.erase(path);
       return;
     }
     for (const std::string& child : ChildrenOf(path)) {
@@ -92,9 +105,10 @@ class RandomTree {
   RandomTree(TreePlaces places, std::mt19937& random)
       : places_(std::move(places)), random_(random) {}
 
-  // What is below the top.
+  // What is below the top; links are protected and hidden too where they can be.
   Tree Make() {
     Fill(places_.Top, 3);
+    if (random_() % 2 == 0) AddCache(places_.Top + "\\Content.IE5");
     return std::move(tree_);
   }
 
@@ -115,6 +129,15 @@ class RandomTree {
     }
   }
 
+  // The folder of the index, or a link in its place; the index, or anything in its place.
+  void AddCache(const std::string& path) {
+    if (random_() % 4 == 0) return AddLink(places_.Top, path);
+    AddFolder(path, 1);
+    const std::string index = path + "\\index.dat";
+    if (random_() % 3 == 0) return AddLink(path, index);
+    AddFile(index);
+  }
+
   void AddFolder(const std::string& path, int depth) {
     tree_[path].folder = true;
     Fill(path, depth - 1);
@@ -127,13 +150,18 @@ class RandomTree {
     TreeNode& link = tree_[path];
     link.target = targets[random_() % count];
     link.folder = link.target != places_.OutsideFile;
+    if (!places_.OutsideFile.empty()) link.attributes = AnyAttributes();
+  }
+
+  std::uint32_t AnyAttributes() {
+    const std::uint32_t attributes[] = {
+        0, 0, 0, platform::AttributeReadOnly, platform::AttributeHidden, platform::AttributeSystem};
+    return attributes[random_() % std::size(attributes)];
   }
 
   void AddFile(const std::string& path) {
-    const std::uint32_t attributes[] = {
-        0, 0, 0, platform::AttributeReadOnly, platform::AttributeHidden, platform::AttributeSystem};
     TreeNode& file = tree_[path];
-    file.attributes = attributes[random_() % std::size(attributes)];
+    file.attributes = AnyAttributes();
     file.locked = random_() % 8 == 0;
     file.content = std::string(random_() % 5, 'x');
   }

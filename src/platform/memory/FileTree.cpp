@@ -42,6 +42,14 @@ bool HasForbiddenCharacter(const std::string& cleaned) {
   return found != std::string::npos || cleaned.find(':', 2) != std::string::npos;
 }
 
+bool IsSlash(char c) { return c == '\\' || c == '/'; }
+
+// A path that begins with one slash lies on the current drive, which is C: here.
+std::string OnItsDrive(const std::string& path) {
+  const bool isRooted = !path.empty() && IsSlash(path[0]) && (path.size() < 2 || !IsSlash(path[1]));
+  return isRooted ? "C:" + path : path;
+}
+
 bool EndsInSlash(const std::string& path) {
   return !path.empty() && (path.back() == '\\' || path.back() == '/');
 }
@@ -75,7 +83,8 @@ struct FileTree::Node {
   std::string name;  // as first spelt
   bool folder = false;
   bool locked = false;
-  std::uint32_t attributes = 0;       // those that a program sets
+  std::uint32_t attributes = 0;  // those that a program sets
+  std::int64_t changed = 0;
   std::optional<std::string> target;  // of a link
   std::string content;
   std::map<std::string, std::shared_ptr<Node>> children;  // by folded name
@@ -97,7 +106,7 @@ struct FileTree::Node {
   }
 
   DirectoryEntry Entry(const std::string& shownName) const {
-    return {shownName, folder || target ? 0 : content.size(), Attributes(), 0};
+    return {shownName, folder || target ? 0 : content.size(), Attributes(), changed};
   }
 };
 
@@ -194,6 +203,10 @@ void FileTree::Remove(const std::string& path) { Erase(path); }
 
 void FileTree::SetAttributes(const std::string& path, std::uint32_t attributes) {
   Existing(path).attributes = attributes & Settable;
+}
+
+void FileTree::SetChanged(const std::string& path, std::int64_t changed) {
+  Existing(path).changed = changed;
 }
 
 void FileTree::SetLocked(const std::string& path, bool locked) { Existing(path).locked = locked; }
@@ -317,7 +330,7 @@ std::int32_t FileTree::Append(const std::string& path, const std::string& conten
 
 std::int32_t FileTree::ListMatching(const std::string& pattern,
                                     std::vector<DirectoryEntry>& entries) const {
-  const std::string cleaned = Clean(pattern);
+  const std::string cleaned = Clean(OnItsDrive(pattern));
   const std::string above = FolderOf(cleaned);
   const std::string name = NameOf(cleaned);
   const auto folder = Followed(above);

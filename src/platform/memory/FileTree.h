@@ -2,7 +2,8 @@
 // Paths are full, begin with a drive ("C:\..."), compare without regard to case and take both
 // slashes; the spelling of the first making is kept. A link, like a junction, stands for what its
 // target names and may lead nowhere or in circles. Not modelled: short names, streams, rights of
-// single users and network paths; times stand still, and a path's length has no limit.
+// single users and network paths; times are those that are set, and only platform/Folders.h limits
+// the length of a path.
 #ifndef VANTREL_PLATFORM_MEMORY_FILETREE_H_
 #define VANTREL_PLATFORM_MEMORY_FILETREE_H_
 
@@ -39,6 +40,8 @@ class FileTree {
   void SetHidden(const std::string& path, bool hidden) {
     SetAttribute(path, AttributeHidden, hidden);
   }
+  // Units of 100 ns since 1601, world time; 0 at first, and no call changes it.
+  void SetChanged(const std::string& path, std::int64_t changed);
   // Locked: another program has the file open for itself alone, or works in the folder.
   void SetLocked(const std::string& path, bool locked);
   // How many more bytes the disk takes; unlimited until set.

@@ -47,7 +47,10 @@ class ShellView : public Shell {
     FolderPicker picker{info, {}};
     const WindowHandle window = world_.desktop.MakeWindow(process_, 0, "Browse For Folder");
     world_.desktop.SetHandler(window, [&picker](const Message& message) {
-      if (message.message == BffmSetSelectionA && message.text) picker.Selected = *message.text;
+      const bool isPath = message.wParam != 0;
+      if (message.message == BffmSetSelectionA && isPath && message.text) {
+        picker.Selected = *message.text;
+      }
       return true;
     });
     info.Callback(window, BffmInitialized, info.Parameter);

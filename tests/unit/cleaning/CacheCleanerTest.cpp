@@ -13,15 +13,6 @@ constexpr const char* Explorer = "Software\\Microsoft\\Windows\\CurrentVersion\\
 
 class CacheCleaner : public CleanPanel {
  protected:
-  std::vector<forms::CheckBox*> Boxes() {
-    auto& panel = Panel();
-    return {&panel.chkCacheHistory,       &panel.chkCacheInternet, &panel.chkCacheRecent,
-            &panel.chkCacheHURL,          &panel.chkCachetemp,     &panel.chkWindowsRunHistory,
-            &panel.chkWindowsFindHistory, &panel.chkWindowsRecDoc, &panel.chkWindowsRB};
-  }
-  void SelectOnly(forms::CheckBox& only) {
-    for (forms::CheckBox* box : Boxes()) box->SetValue(box == &only ? 1 : 0);
-  }
   void Delete() { Click(Panel().CmdDeleteCache); }
   // The registry keys that were deleted, without their root.
   std::vector<std::string> DeletedKeys() {
@@ -136,6 +127,23 @@ TEST_F(CacheCleaner, AListIsLeftAsAnEmptyKey) {
   EXPECT_FALSE(world.registry.GetString(platform::HKeyCurrentUser, TypedUrls, "url1"));
 }
 
+TEST_F(CacheCleaner, EachListIsMadeAnewAtOnce) {
+  Delete();
+  std::vector<std::string> calls;
+  for (const std::string& line : process.Trace().Lines()) {
+    if (line.starts_with("RegDeleteKeyA") || line.starts_with("RegCreateKeyExA")) {
+      calls.push_back(line);
+    }
+  }
+  const auto keys = DeletedKeys();
+  ASSERT_EQ(calls.size(), 2 * keys.size());
+  for (std::size_t list = 0; list < keys.size(); ++list) {
+    EXPECT_THAT(calls[2 * list], testing::StartsWith("RegDeleteKeyA HKCU\\" + keys[list] + " "));
+    EXPECT_THAT(calls[2 * list + 1],
+                testing::StartsWith("RegCreateKeyExA HKCU\\" + keys[list] + " "));
+  }
+}
+
 TEST_F(CacheCleaner, AListThatIsNotThereIsMade) {
   SelectOnly(Panel().chkWindowsRunHistory);
   Delete();
@@ -236,12 +244,14 @@ TEST_F(CacheCleaner, ASecondClickMeanwhileStartsANestedRun) {
   for (int file = 0; file < 5; ++file) Put(std::string(History) + "\\f" + std::to_string(file));
   RefreshCleanPanel(program);
   SelectOnly(Panel().chkCacheHistory);
-  int depth = 0;
   toolkit.DuringDoEvents = [&] {
-    if (depth++ == 0) Delete();
+    toolkit.DuringDoEvents = nullptr;
+    EXPECT_EQ(world.files.List(History).size(), 4U);
+    EXPECT_TRUE(user.Click(Panel().CmdDeleteCache));
+    EXPECT_TRUE(world.files.List(History).empty());
+    EXPECT_EQ(Panel().lblcleaningstatus.Caption(), "Done");
   };
   Delete();
-  EXPECT_GE(depth, 2);
   EXPECT_TRUE(world.files.List(History).empty());
   EXPECT_EQ(Panel().lblcleaningstatus.Caption(), "Done");
 }
@@ -270,6 +280,14 @@ TEST_F(RemovedTree, ALockedFileEndsItWithAnError) {
   world.files.SetLocked("C:\\t\\a\\f", true);
   EXPECT_THROW(RmTree(program, "C:\\t"), text::RuntimeError);
   EXPECT_TRUE(Exists("C:\\t\\a\\f"));
+}
+
+TEST_F(RemovedTree, WhatAListingGaveBeforeItFailedGoes) {
+  for (const char* name : {"a", "b", "c"}) Put(std::string("C:\\t\\") + name);
+  process.Faults().SetEntriesBeforeFailure(4);
+  process.Faults().FailCall("ListFolder", 2, platform::ErrorAccessDenied);
+  EXPECT_THROW(RmTree(program, "C:\\t"), text::RuntimeError);
+  EXPECT_THAT(world.files.List("C:\\t"), ElementsAre("c"));
 }
 
 TEST_F(RemovedTree, ALinkIsRemovedItself) {

@@ -52,6 +52,15 @@ class CleanPanel : public test::ComponentFixture {
   bool Exists(const std::string& path) {
     return world.files.IsFile(path) || world.files.IsFolder(path);
   }
+  std::vector<forms::CheckBox*> Boxes() {
+    auto& panel = Panel();
+    return {&panel.chkCacheHistory,       &panel.chkCacheInternet, &panel.chkCacheRecent,
+            &panel.chkCacheHURL,          &panel.chkCachetemp,     &panel.chkWindowsRunHistory,
+            &panel.chkWindowsFindHistory, &panel.chkWindowsRecDoc, &panel.chkWindowsRB};
+  }
+  void SelectOnly(forms::CheckBox& only) {
+    for (forms::CheckBox* box : Boxes()) box->SetValue(box == &only ? 1 : 0);
+  }
   void Click(forms::Control& control) { user.Click(control); }
   std::vector<std::string> Captions() {
     return {Panel().lbltif.Caption(), Panel().lblRecent.Caption(), Panel().lblhistory.Caption(),

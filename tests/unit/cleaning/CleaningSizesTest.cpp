@@ -1,4 +1,5 @@
 // The sizes of the folders that the Clean panel cleans, and where their paths are kept.
+#include "cleaning/FolderSize.h"
 #include "unit/cleaning/CleanPanel.h"
 
 namespace vantrel::cleaning {
@@ -76,6 +77,38 @@ TEST_F(CleaningSizes, AFolderThatCannotBeMeasuredEndsTheScanThere) {
   ShowCacheSizes(program);
   EXPECT_THAT(Captions(), ElementsAre("4 Kbs", "", "", ""));
   EXPECT_THAT(Paths(), ElementsAre(Internet, "", "", ""));
+}
+
+// One folder of large files, whose bytes no test has.
+class LargeFiles : public platform::Folders {
+ public:
+  bool FolderExists(const std::string& /*path*/) override { return true; }
+  std::int32_t ListFolder(const std::string& /*pattern*/,
+                          std::vector<platform::DirectoryEntry>& entries) override {
+    entries.assign(3, {"f", 3'000'000'000, platform::AttributeArchive, 0});
+    return 0;
+  }
+  std::int32_t DeleteFileA(const std::string& /*path*/) override { return 5; }
+  std::int32_t RemoveDirectoryA(const std::string& /*path*/) override { return 5; }
+  std::int32_t SetFileAttributesA(const std::string& /*path*/, std::uint32_t /*bits*/) override {
+    return 5;
+  }
+  bool MakeSureDirectoryPathExists(const std::string& /*path*/) override { return false; }
+};
+
+TEST_F(CleaningSizes, ATotalIsNotCutAt32Bits) {
+  LargeFiles folders;
+  EXPECT_EQ(FolderSize(folders, "C:\\large"), 9'000'000'000U);
+  EXPECT_EQ(InKilobytes(program, 9'000'000'000U), "8,789,063 Kbs");
+}
+
+TEST_F(CleaningSizes, ACookiesFolderThatIsAFileShowsNothing) {
+  Put("C:\\file");
+  world.specialFolders[fileutil::CSIDL_COOKIES] = "C:\\file";
+  ShowIECookies(program);
+  EXPECT_EQ(Panel().lblcookies.Caption(), "");
+  EXPECT_EQ(Panel().txtcookies.Text(), "C:\\Documents and Settings\\Administrator\\Cookies");
+  EXPECT_THAT(Urls(), testing::IsEmpty());
 }
 
 TEST_F(CleaningSizes, TheCookiesShowSizePathAndFiles) {

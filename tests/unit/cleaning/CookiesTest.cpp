@@ -44,6 +44,33 @@ TEST_F(Cookies, TheLastRowIsSelectedAndHiddenFilesAreNotListed) {
   EXPECT_EQ(Panel().urls.SelectedIndex(), 3);
 }
 
+TEST_F(Cookies, AnEmptyPathListsTheRootOfTheCurrentDriveWithoutItsFirstEntry) {
+  Put("C:\\A first");
+  Put("C:\\Z last");
+  EnumCookies(program, "");
+  ASSERT_GE(Urls().size(), 2U);
+  EXPECT_THAT(Urls(), testing::Not(testing::Contains("\\A first|A first|ie")));
+  EXPECT_EQ(Urls().back(), "\\Z last|Z last|ie");
+}
+
+TEST_F(Cookies, WhatAListingGaveBeforeItFailedIsListed) {
+  Put("C:\\User\\Cookies\\a");
+  Put("C:\\User\\Cookies\\b");
+  process.Faults().SetEntriesBeforeFailure(3);
+  process.Faults().FailCall("ListFolder", 1, platform::ErrorAccessDenied);
+  EnumCookies(program, CookiesFolder);
+  EXPECT_THAT(Urls(), ElementsAre("C:\\User\\Cookies\\..|..|ie", "C:\\User\\Cookies\\a|a|ie"));
+}
+
+TEST_F(Cookies, WithoutTheFolderOfApplicationsNothingIsFound) {
+  InstallNetscape(Line(".site.example"));
+  world.specialFolders.erase(fileutil::CSIDL_APPDATA);
+  Click(Panel().optNetscape);
+  EXPECT_THAT(Urls(), IsEmpty());
+  EXPECT_EQ(Target(), "");
+  EXPECT_THAT(BoxTexts(), IsEmpty());
+}
+
 TEST_F(Cookies, AMissingFolderListsNothing) {
   EnumCookies(program, "C:\\none");
   EXPECT_THAT(Urls(), IsEmpty());

@@ -125,6 +125,18 @@ TEST_F(ScrambledFile, ReadOnlyLockedAndMissingFilesStayAsTheyAre) {
   EXPECT_EQ(program.fileNumbers.FreeFile(), 1);
 }
 
+TEST_F(ScrambledFile, TheRandomNumbersComeFromTheClock) {
+  const auto scrambled = [this] {
+    world.files.Put(Path, std::string(40, 'x'));
+    ScrambleFile(program, Path);
+    return Content();
+  };
+  const std::string first = scrambled();
+  EXPECT_EQ(scrambled(), first);
+  world.clock.Advance(1000);
+  EXPECT_NE(scrambled(), first);
+}
+
 TEST_F(ScrambledFile, KillDeletesIt) {
   world.files.Put(Path, "secret");
   ScrambleAndKill(program, Path);

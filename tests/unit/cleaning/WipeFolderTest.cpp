@@ -1,6 +1,7 @@
 // What wiping removes and what it leaves.
 #include <random>
 
+#include "cleaning/CleaningTarget.h"
 #include "cleaning/Scramble.h"
 #include "support/WipedTrees.h"
 #include "unit/cleaning/CleanPanel.h"
@@ -118,6 +119,33 @@ TEST_F(WipedFolder, ANestedFolderThatCannotBeListedKeepsWhatIsAboveItToo) {
   EXPECT_EQ(Panel().pbarCache.Value(), 1);
 }
 
+TEST_F(WipedFolder, WhatAListingGaveBeforeItFailedGoes) {
+  for (const char* name : {"a\\f", "b\\f", "c\\f", "f", "g"}) Put(std::string(Top) + "\\" + name);
+  process.Faults().SetEntriesBeforeFailure(6);
+  process.Faults().FailCall("ListFolder", 1, platform::ErrorAccessDenied);
+  EXPECT_FALSE(WipeFolder(program, Top));
+  EXPECT_THAT(world.files.List(Top), ElementsAre("g"));
+}
+
+// The subfolders before the failure are gone then, and the folder itself stays as it is.
+TEST_F(WipedFolder, AListingThatFailsBehindASubfolderKeepsTheFolder) {
+  for (const char* name : {"one\\f", "two\\f", "x"}) Put(std::string(Top) + "\\a\\" + name);
+  process.Faults().SetEntriesBeforeFailure(3);
+  process.Faults().FailCall("ListFolder", 4, platform::ErrorAccessDenied);
+  WipeFolder(program, Top);
+  EXPECT_THAT(world.files.List("C:\\wiped\\a"), ElementsAre("two", "x"));
+  EXPECT_EQ(Panel().pbarCache.Value(), 1);
+}
+
+// Names that only other interfaces can make: under them the system would find something else.
+TEST_F(WipedFolder, NamesThatTheSystemReadsAsOthersAreLeftAlone) {
+  for (const char* name : {"...", "sub.", "com1", "f "}) Put(std::string(Top) + "\\d\\" + name);
+  world.files.MakeFolder(std::string(Top) + "\\....");
+  WipeFolder(program, Top);
+  EXPECT_THAT(process.Trace().LinesOf("DeleteFileA"), IsEmpty());
+  EXPECT_EQ(process.Trace().LinesOf("RemoveDirectoryA").size(), 1U);
+}
+
 TEST_F(WipedFolder, LinksAreRemovedThemselves) {
   Put("C:\\outside\\f", "kept");
   Put("C:\\wiped\\sub\\f");
@@ -135,6 +163,7 @@ void Plant(platform::memory::FileTree& files, const test::Tree& tree) {
   for (const auto& [path, node] : tree) {
     if (!node.target.empty()) {
       files.MakeLink(path, node.target);
+      files.SetAttributes(path, node.attributes);
     } else if (node.folder) {
       files.MakeFolder(path);
     } else {
@@ -149,25 +178,32 @@ TEST_F(WipedFolder, RandomTreesLeaveWhatTheModelLeavesAndNothingOutsideChanges) 
   std::mt19937 random(11);
   Put("C:\\outside\\f", "kept");
   Put("C:\\outside\\sub\\g", "kept too");
+  Put("C:\\outside\\index.dat", "kept as well");
+  SelectOnly(Panel().chkCacheInternet);
   world.files.MakeFolder("C:\\empty");
   for (int round = 0; round < 10000; ++round) {
     const test::Tree before =
         test::RandomTree({Top, "C:\\outside", "C:\\empty", "C:\\outside\\f"}, random).Make();
     Plant(world.files, before);
-    WipeFolder(program, Top);
+    Panel().lbltif.SetToolTipText(Top);
+    CmdDeleteCache_Click(program);
     const test::Tree left = test::WipeModel(before).Wiped(Top);
     for (const auto& [path, node] : before) {
       ASSERT_EQ(world.files.Exists(path), left.contains(path)) << "round " << round << ' ' << path;
     }
     ASSERT_EQ(world.files.Read("C:\\outside\\f"), "kept") << round;
     ASSERT_EQ(world.files.Read("C:\\outside\\sub\\g"), "kept too") << round;
+    ASSERT_EQ(world.files.Read("C:\\outside\\index.dat"), "kept as well") << round;
     ASSERT_TRUE(Exists("C:\\empty")) << round;
+    process.Trace().Clear();
     world.files.Remove(Top);
   }
 }
 
 TEST_F(WipedFolder, AHostileTargetIsSkippedOrNothing) {
   Put("C:\\kept\\f", "kept");
+  world.files.MakeFolder("C:\\kept.");
+  // Those that name no place of their own are not even looked for.
   const std::string targets[] = {"",
                                  " ",
                                  "   ",
@@ -210,8 +246,31 @@ TEST_F(WipedFolder, AHostileTargetIsSkippedOrNothing) {
                                  ";"};
   ASSERT_EQ(std::size(targets), 40U);
   for (const std::string& target : targets) {
+    process.Trace().Clear();
     WipeFolder(program, target);
     if (target != "C:\\kept\\f") ScrambleAndKill(program, target);
+    EXPECT_EQ(world.files.Read("C:\\kept\\f"), "kept") << target;
+    EXPECT_TRUE(IsCleaningTarget(target) || process.Trace().Lines().empty()) << target;
+  }
+  EXPECT_THAT(BoxTexts(), IsEmpty());
+}
+
+// The same through the two places that keep a target.
+TEST_F(WipedFolder, AHostileTextInALabelOrTheTextBoxIsNoTarget) {
+  Put("C:\\kept\\f", "kept");
+  SelectOnly(Panel().chkCachetemp);
+  for (const char* target : {"", " ", "\\", "..", "kept", "C:kept", "C:\\", "C:/", "C:\\kept\\f",
+                             "C:\\kept\\f.", "C:\\kept\\*.*", "C:\\NUL"}) {
+    Panel().lblotf.SetToolTipText(target);
+    Click(Panel().CmdDeleteCache);
+    Panel().txtcookies.SetText(target);
+    Click(Panel().cmddeleteCookies);
+    if (std::string(target) != "C:\\kept\\f") {
+      Panel().optOpera.SetValue(true);
+      Panel().txtcookies.SetText(target);
+      Click(Panel().cmddeleteCookies);
+    }
+    Click(Panel().optIE);
     EXPECT_EQ(world.files.Read("C:\\kept\\f"), "kept") << target;
   }
   EXPECT_THAT(BoxTexts(), IsEmpty());

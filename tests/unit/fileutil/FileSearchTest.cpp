@@ -127,6 +127,74 @@ TEST_F(FileSearch, AFolderWhoseNameEndsAnEarlierOneIsPassedOver) {
   EXPECT_THAT(folders.Paths, ElementsAre("C:\\a\\b"));
 }
 
+TEST_F(FileSearch, AnEmptyFolderElementIsTheRootOfTheCurrentDrive) {
+  world.files.MakeFolder("C:\\R\\a");
+  FileSearchResult folders;
+  ListSubFolders(program, ";C:\\R", platform::AttributeDirectory, folders);
+  EXPECT_THAT(folders.Paths, testing::Contains("\\R"));
+  EXPECT_EQ(folders.Paths.back(), "C:\\R\\a");
+}
+
+TEST_F(FileSearch, DatesAreThoseOfTheListing) {
+  Put("C:\\R\\a\\f");
+  world.files.SetChanged("C:\\R\\a", 1);
+  world.files.SetChanged("C:\\R\\a\\f", 127'000'000'000'000'000);
+  FileSearchResult folders;
+  ListSubFoldersDeep(program, "C:\\R", platform::AttributeDirectory, folders);
+  EXPECT_THAT(folders.Dates, ElementsAre(1));
+  EXPECT_THAT(Search("C:\\R", "f").Dates, ElementsAre(127'000'000'000'000'000));
+}
+
+TEST_F(FileSearch, MessagesRunAtEachNameOfFoldersAndOnceForEachListingOfFiles) {
+  int pumps = 0;
+  toolkit.DuringDoEvents = [&] { ++pumps; };
+  const auto pumpsOf = [&](const auto& walk) {
+    pumps = 0;
+    walk();
+    return pumps;
+  };
+  Put("C:\\R\\a\\f");
+  Put("C:\\R\\b\\f");
+  Put("C:\\R\\f");
+  FileSearchResult found;
+  // ".", "..", "a", "b" and "f".
+  EXPECT_EQ(pumpsOf([&] { ListSubFolders(program, "C:\\R", 16, found); }), 5);
+  EXPECT_EQ(pumpsOf([&] { FindFilesIn(program, "C:\\R;C:\\R\\a", "f;g;*", 32, found); }), 6);
+  // Once a folder, whatever it holds.
+  EXPECT_EQ(pumpsOf([&] { FindLastFile(program, "C:\\R", "f"); }), 3);
+}
+
+TEST_F(FileSearch, WhatAListingGaveBeforeItFailedIsFound) {
+  for (const char* name : {"a\\f", "b\\f", "f1", "f2"}) Put(std::string("C:\\R\\") + name);
+  process.Faults().SetEntriesBeforeFailure(3);
+  process.Faults().FailCall("ListFolder", 1, platform::ErrorAccessDenied);
+  FileSearchResult folders;
+  EXPECT_THROW(ListSubFolders(program, "C:\\R", 16, folders), text::RuntimeError);
+  EXPECT_THAT(folders.Paths, ElementsAre("C:\\R\\a"));
+  process.Faults().SetEntriesBeforeFailure(1);
+  process.Faults().FailCall("ListFolder", 1, platform::ErrorAccessDenied);
+  FileSearchResult files;
+  EXPECT_THROW(FindFilesIn(program, "C:\\R", "f*", 32, files), text::RuntimeError);
+  EXPECT_THAT(files.Paths, ElementsAre("C:\\R\\f1"));
+  process.Faults().FailCall("ListFolder", 2, platform::ErrorAccessDenied);
+  EXPECT_THROW(FindLastFile(program, "C:\\R", "f*"), text::RuntimeError);
+  EXPECT_EQ(Hit(), "C:\\R\\f1");
+}
+
+TEST_F(FileSearch, TheIndexOfNotedFoldersHas16Bits) {
+  for (int folder = 0; folder < 32767; ++folder) {
+    world.files.MakeFolder("C:\\O\\d" + std::to_string(folder));
+  }
+  EXPECT_NO_THROW(FindLastFile(program, "C:\\O", "cookies*"));
+  world.files.MakeFolder("C:\\O\\last");
+  try {
+    FindLastFile(program, "C:\\O", "cookies*");
+    FAIL() << "no error";
+  } catch (const text::RuntimeError& error) {
+    EXPECT_EQ(error.Number(), text::ErrorNumber::Overflow);
+  }
+}
+
 TEST_F(FileSearch, HiddenFoldersAreNotListed) {
   world.files.MakeFolder("C:\\R\\hidden");
   world.files.SetAttributes("C:\\R\\hidden", platform::AttributeHidden);

@@ -33,6 +33,13 @@ TEST_F(FolderPaths, OneIsAskedForInTheNameOfTheMainWindowTheOtherInNobodys) {
                           "SHGetSpecialFolderLocation 0x0 26 -> 0"));
 }
 
+TEST_F(FolderPaths, TheItemListOfASpecialFolderIsNotFreed) {
+  world.specialFolders[CSIDL_COOKIES] = "C:\\Cookies";
+  GetSpecialFolder(program, CSIDL_COOKIES);
+  GetSpecialFolderSlash(program, CSIDL_COOKIES);
+  EXPECT_EQ(world.itemLists.size(), 2U);
+}
+
 TEST_F(FolderPaths, AFolderThatTheShellDoesNotKnowIsAnEmptyText) {
   world.specialFolders.erase(CSIDL_HISTORY);
   EXPECT_EQ(GetSpecialFolder(program, CSIDL_HISTORY), "");
@@ -82,7 +89,10 @@ TEST_F(FolderPaths, ThePickerIsToldNothingButAtItsInitialization) {
   EXPECT_EQ(BrowseCallbackProc(program, 77, 2), 0);
   EXPECT_THAT(process.Trace().LinesOf("SendMessageA"), IsEmpty());
   EXPECT_EQ(BrowseCallbackProc(program, 77, platform::BffmInitialized), 0);
-  EXPECT_THAT(process.Trace().LinesOf("SendMessageA"), testing::SizeIs(1));
+  // The parameter of -1 says that the text is a path.
+  EXPECT_THAT(process.Trace().LinesOf("SendMessageA"),
+              ElementsAre("SendMessageA 0x4D 1126 " +
+                          std::to_string(static_cast<std::uintptr_t>(-1)) + " \"C:\\start\""));
 }
 
 TEST_F(FolderPaths, APathThatIsThereIsMadeWithoutABox) {
