@@ -92,6 +92,67 @@ TEST_P(FoldersContract, HiddenAndReadOnlyFilesAreListedAsSuch) {
   EXPECT_NE(List(folder_ + "\\protected").front().Attributes & AttributeReadOnly, 0U);
 }
 
+TEST_P(FoldersContract, ASystemFileIsListedAsSuchAndDeleted) {
+  Put("\\system");
+  EXPECT_EQ(folders_.SetFileAttributesA(folder_ + "\\system", AttributeSystem), 0);
+  EXPECT_NE(List(folder_ + "\\system").front().Attributes & AttributeSystem, 0U);
+  EXPECT_EQ(folders_.DeleteFileA(folder_ + "\\system"), 0);
+  EXPECT_FALSE(Exists("\\system"));
+}
+
+TEST_P(FoldersContract, AListingTellsWhenAFileWasChanged) {
+  constexpr std::int64_t Changed = 127'236'528'000'000'000;
+  Put("\\a");
+  subject_->SetChanged(folder_ + "\\a", Changed);
+  EXPECT_EQ(List(folder_ + "\\a").front().Changed, Changed);
+}
+
+TEST_P(FoldersContract, LongNamesAreListedWhole) {
+  const std::string name = std::string(100, 'n') + " with blanks." + std::string(40, 'e');
+  Put("\\" + name, "123");
+  EXPECT_THAT(Names(folder_ + "\\nn*"), ElementsAre(name));
+  EXPECT_EQ(folders_.DeleteFileA(folder_ + "\\" + name), 0);
+}
+
+TEST_P(FoldersContract, APathOf260CharactersNamesNothing) {
+  const std::string longest = folder_ + "\\" + std::string(258 - folder_.size(), 'n');
+  const std::string path = longest + "n";
+  ASSERT_EQ(path.size(), 260U);
+  EXPECT_FALSE(folders_.FolderExists(path));
+  std::vector<DirectoryEntry> entries;
+  EXPECT_NE(folders_.ListFolder(path, entries), 0);
+  EXPECT_THAT(entries, IsEmpty());
+  EXPECT_NE(folders_.DeleteFileA(path), 0);
+  EXPECT_NE(folders_.RemoveDirectoryA(path), 0);
+  EXPECT_NE(folders_.SetFileAttributesA(path, AttributeNormal), 0);
+  EXPECT_FALSE(folders_.MakeSureDirectoryPathExists(longest + "\\"));
+}
+
+TEST_P(FoldersContract, AFolderInUseIsNotRemoved) {
+  subject_->MakeFolder(folder_ + "\\Sub");
+  subject_->Lock(folder_ + "\\Sub");
+  EXPECT_EQ(folders_.RemoveDirectoryA(folder_ + "\\Sub"), ErrorSharingViolation);
+  subject_->Unlock();
+  EXPECT_EQ(folders_.RemoveDirectoryA(folder_ + "\\Sub"), 0);
+}
+
+TEST_P(FoldersContract, ALinkIsListedAndRemovedItself) {
+  subject_->MakeFolder(folder_ + "\\Sub");
+  Put("\\Sub\\a", "kept");
+  if (!subject_->MakeLink(folder_ + "\\toFolder", folder_ + "\\Sub")) {
+    GTEST_SKIP() << "the system makes no links";
+  }
+  ASSERT_TRUE(subject_->MakeLink(folder_ + "\\toFile", folder_ + "\\Sub\\a"));
+  EXPECT_TRUE(folders_.FolderExists(folder_ + "\\toFolder"));
+  for (const DirectoryEntry& entry : List(folder_ + "\\to*")) {
+    EXPECT_NE(entry.Attributes & AttributeReparsePoint, 0U) << entry.Name;
+    EXPECT_EQ(entry.Size, 0U) << entry.Name;
+  }
+  EXPECT_EQ(folders_.DeleteFileA(folder_ + "\\toFile"), 0);
+  EXPECT_EQ(folders_.RemoveDirectoryA(folder_ + "\\toFolder"), 0);
+  EXPECT_EQ(subject_->ReadFile(folder_ + "\\Sub\\a"), "kept");
+}
+
 TEST_P(FoldersContract, AListingAddsToWhatIsThere) {
   Put("\\a");
   std::vector<DirectoryEntry> entries(1);
@@ -242,6 +303,32 @@ TEST_P(BinaryFilesContract, FoldersAndLockedFilesAreRefused) {
   Put("\\locked", "x");
   subject_->Lock(folder_ + "\\locked");
   EXPECT_EQ(Refusal("\\locked", FileAccess::Read), 32);
+}
+
+TEST_P(BinaryFilesContract, ALinkIsFollowedUnlessTheAccessRefusesIt) {
+  Put("\\a", "kept");
+  files_.CloseFile(Open("\\a", FileAccess::ReadWriteNoLink));
+  if (!subject_->MakeLink(folder_ + "\\link", folder_ + "\\a")) {
+    GTEST_SKIP() << "the system makes no links";
+  }
+  const OpenFileHandle file = Open("\\link", FileAccess::ReadWrite);
+  EXPECT_EQ(ReadAt(file, 0, 10), "kept");
+  files_.CloseFile(file);
+  EXPECT_EQ(Refusal("\\link", FileAccess::ReadWriteNoLink), ErrorAccessDenied);
+}
+
+TEST_P(BinaryFilesContract, FoldersLockedAndMissingFilesAreRefusedWithoutLinksToo) {
+  subject_->MakeFolder(folder_ + "\\Sub");
+  EXPECT_EQ(Refusal("\\Sub", FileAccess::ReadWriteNoLink), ErrorAccessDenied);
+  Put("\\locked", "x");
+  subject_->Lock(folder_ + "\\locked");
+  EXPECT_EQ(Refusal("\\locked", FileAccess::ReadWriteNoLink), ErrorSharingViolation);
+  EXPECT_EQ(Refusal("\\none", FileAccess::ReadWriteNoLink), ErrorFileNotFound);
+  Put("\\a", "before");
+  const OpenFileHandle file = Open("\\a", FileAccess::ReadWriteNoLink);
+  EXPECT_EQ(files_.WriteAt(file, 0, "AFTER"), 0);
+  files_.CloseFile(file);
+  EXPECT_EQ(subject_->ReadFile(folder_ + "\\a"), "AFTERe");
 }
 
 TEST_P(BinaryFilesContract, AnOpenFileCanBeDeletedAndWrittenByOthers) {

@@ -43,6 +43,13 @@ class MemorySubject : public Subject {
     world_.files.SetReadOnly(path, true);
     return true;
   }
+  void SetChanged(const std::string& path, std::int64_t changed) override {
+    world_.files.SetChanged(path, changed);
+  }
+  bool MakeLink(const std::string& path, const std::string& target) override {
+    world_.files.MakeLink(path, target);
+    return true;
+  }
   // Files that others have open and share are as those that nobody has open.
   void OpenShared(const std::string&) override {}
   void Lock(const std::string& path) override {

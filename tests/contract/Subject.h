@@ -35,10 +35,14 @@ class Subject {
   // Makes the file read-only. False where the system lets this user write all the same, as Wine
   // does for root.
   virtual bool ProtectFromWriting(const std::string& path) = 0;
+  // When the file or folder was last changed, in units of 100 ns since 1601, world time.
+  virtual void SetChanged(const std::string& path, std::int64_t changed) = 0;
+  // Makes a link to a file or folder; false where the system makes none.
+  virtual bool MakeLink(const std::string& path, const std::string& target) = 0;
   // Opens the file for reading and writing, shared with readers and writers, until the subject
   // dies.
   virtual void OpenShared(const std::string& path) = 0;
-  // Opens the file for itself alone, until closed again or the subject dies.
+  // Opens the file or folder for itself alone, until closed again or the subject dies.
   virtual void Lock(const std::string& path) = 0;
   virtual void Unlock() = 0;
   // Puts a program there that ends at once.

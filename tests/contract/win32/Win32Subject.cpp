@@ -102,6 +102,21 @@ class Win32Subject : public Subject {
                                           OPEN_EXISTING, 0, nullptr))
                 .Valid();
   }
+  void SetChanged(const std::string& path, std::int64_t changed) override {
+    const win32::FileHandle file(CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr,
+                                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    const FILETIME time{static_cast<DWORD>(changed), static_cast<DWORD>(changed >> 32)};
+    ASSERT_TRUE(SetFileTime(file.Get(), nullptr, nullptr, &time));
+  }
+  // Windows XP has no such call, and neither has Wine.
+  bool MakeLink(const std::string& path, const std::string& target) override {
+    using Make = BOOLEAN(WINAPI*)(const char*, const char*, DWORD);
+    const auto make = reinterpret_cast<Make>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleA("kernel32"), "CreateSymbolicLinkA")));
+    const DWORD kind = GetFileAttributesA(target.c_str()) & FILE_ATTRIBUTE_DIRECTORY ? 1 : 0;
+    return make != nullptr && make(path.c_str(), target.c_str(), kind) &&
+           (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  }
   void OpenShared(const std::string& path) override {
     shared_.Reset(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,
                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
@@ -109,7 +124,8 @@ class Win32Subject : public Subject {
     ASSERT_TRUE(shared_.Valid());
   }
   void Lock(const std::string& path) override {
-    lock_.Reset(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    lock_.Reset(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   }
   void Unlock() override { lock_.Reset(); }
   void PutProgram(const std::string& path) override {

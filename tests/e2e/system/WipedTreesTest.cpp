@@ -7,12 +7,13 @@
 #include <random>
 
 #include "RealProgram.h"
-#include "cleaning/WipeFolder.h"
+#include "cleaning/CacheCleaner.h"
 #include "platform/win32/Handle.h"
 #include "support/Folders.h"
 #include "support/UserFolders.h"
 #include "support/Wait.h"
 #include "support/WipedTrees.h"
+#include "windows/FrmFrameHistory.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -59,6 +60,7 @@ class WipedTrees : public testing::Test {
     }
     PutFile(outside_ + "\\f", "kept");
     PutFile(outside_ + "\\sub\\g", "kept too");
+    PutFile(outside_ + "\\index.dat", "kept as well");
     CreateDirectoryA((outside_ + "\\empty").c_str(), nullptr);
   }
   void TearDown() override {
@@ -99,16 +101,29 @@ class WipedTrees : public testing::Test {
       ASSERT_EQ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0, !node.target.empty()) << path;
     }
   }
+  // As the folder of the cache, which has an index.
+  void CleanByTheButton(const std::string& folder) {
+    windows::FrmFrameHistory& panel = *copy_.program.windows.FrmFrameHistory;
+    for (forms::CheckBox* box :
+         {&panel.chkCacheHistory, &panel.chkCacheRecent, &panel.chkCacheHURL, &panel.chkCachetemp,
+          &panel.chkWindowsRunHistory, &panel.chkWindowsFindHistory, &panel.chkWindowsRecDoc,
+          &panel.chkWindowsRB}) {
+      box->SetValue(0);
+    }
+    panel.lbltif.SetToolTipText(folder);
+    cleaning::CmdDeleteCache_Click(copy_.program);
+  }
   void WipeAndCompare(int number, const test::Tree& before) {
     const std::vector<FileHandle> locks = Lock(before);
-    cleaning::WipeFolder(copy_.program, TopOf(number));
+    CleanByTheButton(TopOf(number));
     const test::Tree left =
         test::WipeModel(before, test::LinkRemoval::IsRefused).Wiped(TopOf(number));
     for (const auto& [path, node] : before) {
       ASSERT_EQ(Exists(path), left.contains(path)) << path;
     }
-    ASSERT_EQ(NamesIn(outside_), (std::vector<std::string>{"empty", "f", "sub"}));
+    ASSERT_EQ(NamesIn(outside_), (std::vector<std::string>{"empty", "f", "index.dat", "sub"}));
     ASSERT_EQ(NamesIn(outside_ + "\\sub"), std::vector<std::string>{"g"});
+    ASSERT_EQ(ReadFileBytes(outside_ + "\\index.dat"), "kept as well");
     ASSERT_EQ(ReadFileBytes(outside_ + "\\f"), "kept");
     ASSERT_EQ(ReadFileBytes(outside_ + "\\sub\\g"), "kept too");
   }
