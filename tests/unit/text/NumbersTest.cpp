@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <string>
 
 #include "text/Numbers.h"
@@ -114,15 +115,42 @@ TEST(Val, ReadsHexadecimal) {
   EXPECT_EQ(255, Val("&hFF"));
   EXPECT_EQ(255, Val("&HffG"));
   EXPECT_EQ(0, Val("&h"));
+  EXPECT_EQ(0xA00, Val("&ha00"));
 }
 
 TEST(HexToNumber, ReadsUpTo32Bits) {
   EXPECT_EQ(0U, HexToNumber("0"));
   EXPECT_EQ(0xFFFFFFFFU, HexToNumber("FFFFffff"));
   EXPECT_EQ(1U, HexToNumber("0000000001"));
+  EXPECT_EQ(0xAAAAU, HexToNumber("aAAa"));
   EXPECT_EQ(6, ErrorOf([] { HexToNumber("100000000"); }));
   EXPECT_EQ(13, ErrorOf([] { HexToNumber(""); }));
   EXPECT_EQ(13, ErrorOf([] { HexToNumber("FFFFFFFFFG"); }));
+}
+
+TEST(RuntimeError, EachNumberHasItsDescription) {
+  const std::map<int, std::string> expected = {{5, "Invalid procedure call or argument"},
+                                               {6, "Overflow"},
+                                               {7, "Out of memory"},
+                                               {9, "Subscript out of range"},
+                                               {13, "Type mismatch"},
+                                               {52, "Bad file name or number"},
+                                               {53, "File not found"},
+                                               {57, "Device I/O error"},
+                                               {58, "File already exists"},
+                                               {61, "Disk full"},
+                                               {62, "Input past end of file"},
+                                               {68, "Device unavailable"},
+                                               {70, "Permission denied"},
+                                               {75, "Path/File access error"},
+                                               {76, "Path not found"},
+                                               {380, "Invalid property value"},
+                                               {35601, "Element not found"},
+                                               {35602, "Key is not unique in collection"}};
+  for (const auto& [number, description] : expected) {
+    EXPECT_EQ(description, Describe(static_cast<ErrorNumber>(number))) << number;
+  }
+  EXPECT_STREQ("Application-defined or object-defined error", Describe(ErrorNumber{1}));
 }
 
 TEST(RoundToLong, RoundsHalfToEven) {
