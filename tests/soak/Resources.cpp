@@ -39,7 +39,8 @@ long WineGdiObjects(HANDLE process) {
       process, reinterpret_cast<const char*>(basic.PebBaseAddress) + GdiTableInProcessBlock);
   MEMORY_BASIC_INFORMATION region{};
   if (table == nullptr || VirtualQueryEx(process, table, &region, sizeof(region)) == 0) return 0;
-  std::vector<GdiEntry> entries(std::min(GdiEntries, region.RegionSize / sizeof(GdiEntry)));
+  std::vector<GdiEntry> entries(
+      std::min<std::size_t>(GdiEntries, region.RegionSize / sizeof(GdiEntry)));
   ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(GdiEntry), nullptr);
   return static_cast<long>(std::count_if(entries.begin(), entries.end(),
                                          [](const GdiEntry& entry) { return entry.type != 0; }));
