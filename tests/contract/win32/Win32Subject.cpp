@@ -108,14 +108,15 @@ class Win32Subject : public Subject {
     const FILETIME time{static_cast<DWORD>(changed), static_cast<DWORD>(changed >> 32)};
     ASSERT_TRUE(SetFileTime(file.Get(), nullptr, nullptr, &time));
   }
-  // Windows XP has no such call, and neither has Wine.
+  // Windows XP has no such call, and Wine's makes nothing though it succeeds.
   bool MakeLink(const std::string& path, const std::string& target) override {
     using Make = BOOLEAN(WINAPI*)(const char*, const char*, DWORD);
     const auto make = reinterpret_cast<Make>(reinterpret_cast<void*>(
         GetProcAddress(GetModuleHandleA("kernel32"), "CreateSymbolicLinkA")));
-    const DWORD kind = GetFileAttributesA(target.c_str()) & FILE_ATTRIBUTE_DIRECTORY ? 1 : 0;
-    return make != nullptr && make(path.c_str(), target.c_str(), kind) &&
-           (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    const DWORD kind = (GetFileAttributesA(target.c_str()) & FILE_ATTRIBUTE_DIRECTORY) != 0 ? 1 : 0;
+    if (make == nullptr || make(path.c_str(), target.c_str(), kind) == FALSE) return false;
+    const DWORD made = GetFileAttributesA(path.c_str());
+    return made != INVALID_FILE_ATTRIBUTES && (made & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   }
   void OpenShared(const std::string& path) override {
     shared_.Reset(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,
