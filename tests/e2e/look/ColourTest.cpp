@@ -1,4 +1,7 @@
-// Every text can be read, in the ordinary colours and in inverted ones.
+// Every text can be read, in the ordinary colours, in inverted ones and under high contrast, and a
+// change of the scheme is followed.
+#include <map>
+
 #include "LookFixture.h"
 #include "Pixels.h"
 
@@ -40,6 +43,31 @@ class ColourTest : public LookFixture {
     const RECT area = OnScreen(control.Window);
     // A frame's line is interrupted for its caption.
     return isContainer ? RECT{area.left + 12, area.top, area.left + 40, area.top + 15} : area;
+  }
+
+  // The commonest colour of each surface that the program draws in colours of its own.
+  std::map<std::string, COLORREF> GroundsOf(const std::string& form) const {
+    std::map<std::string, COLORREF> grounds;
+    for (const Seen& control : ControlsOf(form)) {
+      if (control.Kind != "VantrelWindow" && control.Kind != "msctls_statusbar32" &&
+          control.Kind != "ToolbarWindow32") {
+        continue;
+      }
+      grounds[control.Name] = GroundWithin(PixelsOf(OnScreen(control.Window)));
+    }
+    return grounds;
+  }
+
+  static std::string Common(const std::map<std::string, COLORREF>& one,
+                            const std::map<std::string, COLORREF>& other) {
+    std::string common;
+    for (const auto& [name, color] : one) {
+      const auto found = other.find(name);
+      // The scheme's own windows are white as well.
+      if (color != 0xFFFFFF && found != other.end() && found->second == color)
+        common += name + "\n";
+    }
+    return common;
   }
 
   // A caption in the middle of a gradient is measured against its commonest colour.
@@ -85,12 +113,41 @@ TEST_F(ColourTest, EveryTextCanBeReadInTheOrdinaryColours) {
   ExpectAllReadable();
 }
 
-TEST_F(ColourTest, EveryTextCanBeReadInInvertedColours) {
+class OtherSchemes : public ColourTest, public testing::WithParamInterface<inside::Scheme> {
+ protected:
+  void TearDown() override {
+    Within().Choose(inside::Scheme::Own);
+    ColourTest::TearDown();
+  }
+};
+
+TEST_P(OtherSchemes, EveryTextCanBeRead) {
   Start();
   SetForegroundWindow(Main());
-  Within().InvertColors();
+  Within().Choose(GetParam());
   ExpectAllReadable();
 }
+
+TEST_P(OtherSchemes, NoSurfaceKeepsTheProgramsOwnColours) {
+  Start();
+  SetForegroundWindow(Main());
+  const auto own = GroundsOf("frmMain");
+  Within().Choose(GetParam());
+  std::string kept;
+  EXPECT_TRUE(WaitFor([&] { return (kept = Common(own, GroundsOf("frmMain"))).empty(); }, 2000))
+      << kept;
+  Within().Choose(inside::Scheme::Own);
+  EXPECT_TRUE(WaitFor([&] { return GroundsOf("frmMain") == own; }, 2000));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, OtherSchemes,
+                         testing::Values(inside::Scheme::Inverted,
+                                         inside::Scheme::HighContrastBlack,
+                                         inside::Scheme::HighContrastWhite),
+                         [](const auto& tested) {
+                           constexpr const char* Names[] = {"", "Inverted", "Black", "White"};
+                           return Names[static_cast<int>(tested.param)];
+                         });
 
 }  // namespace
 }  // namespace vantrel::e2e

@@ -57,9 +57,10 @@ LOGFONTA Inside::FontOf(HWND control) const {
   return font;
 }
 
-void Inside::InvertColors() const {
+void Inside::Choose(inside::Scheme scheme) const {
   DWORD_PTR answer = 0;
-  SendMessageTimeoutA(window_, inside::AskInverted, 0, 0, SMTO_BLOCK, DefaultBound, &answer);
+  SendMessageTimeoutA(window_, inside::AskScheme, static_cast<WPARAM>(scheme), 0, SMTO_BLOCK,
+                      DefaultBound, &answer);
 }
 
 }  // namespace vantrel::e2e

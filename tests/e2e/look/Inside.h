@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include "inside/Protocol.h"
+
 namespace vantrel::e2e {
 
 class Inside {
@@ -15,8 +17,9 @@ class Inside {
   Inside& operator=(const Inside&) = delete;
 
   LOGFONTA FontOf(HWND control) const;
-  // White becomes black and the like, and every window is notified; the second time it is undone.
-  void InvertColors() const;
+  // The process's user chooses the scheme, and every window is notified. Whoever chooses one goes
+  // back to Scheme::Own: the next program would see the colours, too.
+  void Choose(inside::Scheme scheme) const;
 
  private:
   HANDLE mapping_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 
 namespace vantrel::e2e {
 namespace {
@@ -46,16 +47,22 @@ std::vector<COLORREF> PixelsOf(const RECT& area) {
   return pixels;
 }
 
-double ContrastWithin(const std::vector<COLORREF>& pixels) {
+COLORREF GroundWithin(const std::vector<COLORREF>& pixels) {
   std::map<COLORREF, int> counts;
   for (const COLORREF pixel : pixels) ++counts[pixel];
-  if (counts.empty()) return 1;
-  const COLORREF ground =
-      std::max_element(counts.begin(), counts.end(), [](const auto& one, const auto& other) {
-        return one.second < other.second;
-      })->first;
+  if (counts.empty()) return CLR_INVALID;
+  return std::max_element(
+             counts.begin(), counts.end(),
+             [](const auto& one, const auto& other) { return one.second < other.second; })
+      ->first;
+}
+
+double ContrastWithin(const std::vector<COLORREF>& pixels) {
+  const COLORREF ground = GroundWithin(pixels);
   double most = 1;
-  for (const auto& [color, count] : counts) most = std::max(most, Contrast(color, ground));
+  for (const COLORREF color : std::set<COLORREF>(pixels.begin(), pixels.end())) {
+    most = std::max(most, Contrast(color, ground));
+  }
   return most;
 }
 

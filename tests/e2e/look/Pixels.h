@@ -11,7 +11,10 @@ namespace vantrel::e2e {
 // The colours of an area of the screen, row by row.
 std::vector<COLORREF> PixelsOf(const RECT& area);
 
-// The contrast between the most frequent colour, the ground, and the one that stands out most.
+// The most frequent colour, CLR_INVALID of no pixels.
+COLORREF GroundWithin(const std::vector<COLORREF>& pixels);
+
+// The contrast between the ground and the colour that stands out most.
 double ContrastWithin(const std::vector<COLORREF>& pixels);
 
 }  // namespace vantrel::e2e

@@ -392,15 +392,18 @@ void ShootBox(const Copy& copy) {
   }
 }
 
-void ShootInverted(const Copy& copy, HWND main) {
+void ShootHighContrast(const Copy& copy, HWND main) {
   const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, copy.ProcessId());
   const Inside inside(process);
-  inside.InvertColors();
+  inside.Choose(inside::Scheme::HighContrastBlack);
   for (const Screen& screen : Panels) {
     copy.Open(screen);
-    Shoot(std::string("inverted-") + screen.Name, main);
+    Shoot(std::string("contrast-") + screen.Name, main);
   }
-  inside.InvertColors();
+  inside.Choose(inside::Scheme::HighContrastWhite);
+  copy.Open(Panels[5]);
+  Shoot("contrast-white", main);
+  inside.Choose(inside::Scheme::Own);
   CloseHandle(process);
 }
 
@@ -423,7 +426,7 @@ int TakeAll() {
   ShootDialogs(copy);
   ShootMenus(copy, main);
   ShootBox(copy);
-  ShootInverted(copy, main);
+  ShootHighContrast(copy, main);
   copy.Open(Panels[0]);
   return 0;
 }

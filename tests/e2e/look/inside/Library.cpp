@@ -1,8 +1,11 @@
 // A font belongs to the process that made it: this library is loaded into the program's process and
-// answers there what a control's font is.
+// answers there what a control's font is. It also changes the colours of that process.
 #include <windows.h>
 
+#include <array>
+
 #include "Protocol.h"
+#include "support/win32/HighContrast.h"
 
 namespace {
 
@@ -22,16 +25,68 @@ void PutFont(HWND control) {
   CloseHandle(mapping);
 }
 
-void InvertColors() {
-  constexpr int Count = 31;
-  constexpr COLORREF White = 0xFFFFFF;
-  int indices[Count];
-  COLORREF inverted[Count];
-  for (int index = 0; index < Count; ++index) {
-    indices[index] = index;
-    inverted[index] = GetSysColor(index) ^ White;
+constexpr int Count = 31;
+using Colors = std::array<COLORREF, Count>;
+
+// As the user had them when the library was loaded.
+const Colors& OwnColors() {
+  static const Colors own = [] {
+    Colors colors{};
+    for (int index = 0; index < Count; ++index) colors[index] = GetSysColor(index);
+    return colors;
+  }();
+  return own;
+}
+
+// Texts and lines in the ink, all else in the paper, but for what is marked, grey or hot.
+Colors HighContrast(COLORREF paper, COLORREF ink, COLORREF mark, COLORREF grey, COLORREF hot) {
+  Colors colors{};
+  colors.fill(paper);
+  for (const int index : {COLOR_WINDOWTEXT, COLOR_WINDOWFRAME, COLOR_MENUTEXT, COLOR_BTNTEXT,
+                          COLOR_INFOTEXT, COLOR_ACTIVEBORDER, COLOR_3DSHADOW, COLOR_3DDKSHADOW,
+                          COLOR_3DHIGHLIGHT, COLOR_INACTIVECAPTIONTEXT}) {
+    colors[index] = ink;
   }
-  SetSysColors(Count, indices, inverted);
+  for (const int index :
+       {COLOR_HIGHLIGHT, COLOR_ACTIVECAPTION, COLOR_GRADIENTACTIVECAPTION, COLOR_MENUHILIGHT}) {
+    colors[index] = mark;
+  }
+  colors[COLOR_HIGHLIGHTTEXT] = colors[COLOR_CAPTIONTEXT] = RGB(255, 255, 255);
+  colors[COLOR_GRAYTEXT] = grey;
+  colors[COLOR_HOTLIGHT] = hot;
+  return colors;
+}
+
+Colors ColorsOf(inside::Scheme scheme) {
+  constexpr COLORREF Black = 0;
+  constexpr COLORREF White = 0xFFFFFF;
+  Colors colors = OwnColors();
+  switch (scheme) {
+    case inside::Scheme::Inverted:
+      for (COLORREF& color : colors) color ^= White;
+      return colors;
+    case inside::Scheme::HighContrastBlack:
+      return HighContrast(Black, White, RGB(128, 0, 128), RGB(0, 255, 0), RGB(128, 128, 255));
+    case inside::Scheme::HighContrastWhite:
+      return HighContrast(White, Black, Black, RGB(0, 128, 0), RGB(0, 0, 128));
+    default:
+      return colors;
+  }
+}
+
+// In the order in which the system does it: the choice, the colours, the report of the choice.
+void ChooseScheme(inside::Scheme scheme) {
+  const Colors colors = ColorsOf(scheme);
+  const bool highContrast =
+      scheme == inside::Scheme::HighContrastBlack || scheme == inside::Scheme::HighContrastWhite;
+  vantrel::tests::ChooseHighContrast(GetModuleHandleA(nullptr), highContrast);
+  std::array<int, Count> indices{};
+  for (int index = 0; index < Count; ++index) indices[index] = index;
+  SetSysColors(Count, indices.data(), colors.data());
+  constexpr UINT Bound = 5000;
+  DWORD_PTR ignored = 0;
+  SendMessageTimeoutA(HWND_BROADCAST, WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST, 0, SMTO_ABORTIFHUNG,
+                      Bound, &ignored);
 }
 
 LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -39,8 +94,8 @@ LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second)
     case inside::AskFont:
       PutFont(reinterpret_cast<HWND>(first));
       return 1;
-    case inside::AskInverted:
-      InvertColors();
+    case inside::AskScheme:
+      ChooseScheme(static_cast<inside::Scheme>(first));
       return 1;
     default:
       return DefWindowProcA(window, message, first, second);
@@ -48,6 +103,7 @@ LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM first, LPARAM second)
 }
 
 DWORD WINAPI Serve(void*) {
+  OwnColors();
   HWND window = CreateWindowA("STATIC", inside::WindowName, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                               nullptr, nullptr);
   SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Receive));

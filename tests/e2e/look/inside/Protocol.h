@@ -12,8 +12,16 @@ inline constexpr const char* MemoryName = "VantrelLookInside";
 // The font of the control in the first parameter is put into the shared memory; answers 1.
 inline constexpr UINT AskFont = WM_APP + 1;
 
-// Every colour of the scheme, as that process sees it, becomes its opposite; answers 1.
-inline constexpr UINT AskInverted = WM_APP + 2;
+// The scheme in the first parameter becomes the user's, as that process sees it, and every window
+// is notified; answers 1.
+inline constexpr UINT AskScheme = WM_APP + 2;
+
+enum class Scheme {
+  Own,       // that of the start
+  Inverted,  // each colour of it as its opposite
+  HighContrastBlack,
+  HighContrastWhite,
+};
 
 struct Memory {
   LOGFONTA Font;
