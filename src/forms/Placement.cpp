@@ -33,6 +33,13 @@ bool Lies(const Place& place, const Place& within) {
 
 }  // namespace
 
+Place ReachablePlace(const Place& window, const Place& screen) {
+  Place place = window;
+  place.Left = std::max(std::min(window.Left, RightOf(screen) - window.Width), screen.Left);
+  place.Top = std::max(std::min(window.Top, BottomOf(screen) - window.Height), screen.Top);
+  return place;
+}
+
 Place PlaceWithin(const Size& inside, const Place& designed, const Anchors& anchors,
                   const Size& designedInside) {
   const Extent across = Held({designed.Left, designed.Width}, anchors.Left, anchors.Right,

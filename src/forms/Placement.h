@@ -1,4 +1,5 @@
-// Where things go that no design can say: controls in a window that has been sized, and tool tips.
+// Where things go that no design can say: controls in a window that has been sized, tool
+// tips, and windows on a screen that has changed.
 // Pure functions of places and sizes, in any one unit.
 #ifndef VANTREL_FORMS_PLACEMENT_H_
 #define VANTREL_FORMS_PLACEMENT_H_
@@ -19,6 +20,10 @@ Place PlaceWithin(const Size& inside, const Place& designed, const Anchors& anch
 // comes down a column of links more often than up.
 Place TipPlace(const Size& tip, const Place& control, const std::vector<Place>& others,
                const Place& screen);
+
+// Where a window goes that may no longer lie on the screen: no further than it must to lie there
+// whole. Of one that is larger the upper left corner does, with the caption.
+Place ReachablePlace(const Place& window, const Place& screen);
 
 }  // namespace vantrel::forms
 

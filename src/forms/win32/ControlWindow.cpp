@@ -68,7 +68,9 @@ void ControlWindow::CreateUnder(HWND parent, int identifier) {
 
 void ControlWindow::ShowTip() {
   tipped_ = true;
-  if (const auto form = System().FormAround(Handle())) form->Tips().Set(Handle(), TipText());
+  if (const auto form = System().FormAround(Handle())) {
+    form->Tips().Set(Handle(), TipText(), System().Pixels);
+  }
 }
 
 HFONT ControlWindow::TextFont() const { return System().Typefaces.Of(control_.TextFont()); }
@@ -108,6 +110,13 @@ void ControlWindow::Changed(Aspect aspect) {
     default:
       return Invalidate();
   }
+}
+
+void ControlWindow::Renew() {
+  for (const Aspect aspect : {Aspect::Font, Aspect::Place}) {
+    if (Alive()) Changed(aspect);
+  }
+  if (Alive()) Rescale();
 }
 
 std::string ControlWindow::ShownText() const {

@@ -24,6 +24,8 @@ class ControlWindow : public Window {
   // Shows what has changed in the model.
   virtual void Changed(Aspect aspect);
   void TakeFocus() const;
+  // The toolkit's scale and fonts are others: what depends on them is made anew.
+  void Renew();
 
   void PaintSurface(HDC context, const RECT& area) override;
   Color GroundColor() const override;
@@ -34,6 +36,8 @@ class ControlWindow : public Window {
   virtual WindowShape Shape() const = 0;
   // After the window is made.
   virtual void Prepare() {}
+  // What the kind has sized by the scale, beside its place.
+  virtual void Rescale() {}
   virtual HFONT TextFont() const;
   // The pointer shown over it, in the models' numbers.
   virtual int Pointer() const { return control_.MousePointer(); }

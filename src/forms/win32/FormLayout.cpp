@@ -27,6 +27,29 @@ void LayOut(const Form& form, HWND window, const Scale& scale) {
   }
 }
 
+Place PlaceOf(HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  return {area.left, area.top, WidthOf(area), HeightOf(area)};
+}
+
+Place WorkAreaAround(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  const RECT& area = monitor.rcWork;
+  return {area.left, area.top, WidthOf(area), HeightOf(area)};
+}
+
+void KeepReachable(HWND window) {
+  if (IsZoomed(window) || IsIconic(window)) return;
+  const Place now = PlaceOf(window);
+  const Place place = ReachablePlace(now, WorkAreaAround(window));
+  if (place == now) return;
+  SetWindowPos(window, nullptr, place.Left, place.Top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void SinkContainers(const Form& form) {
   for (const Control* control : form.Controls()) {
     if (!IsContainer(*control) || control->Peer() == nullptr) continue;

@@ -1,11 +1,13 @@
 #include "forms/win32/FormWindow.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "forms/Controls.h"
 #include "forms/UserControl.h"
 #include "forms/win32/AwaitedPeer.h"
+#include "forms/win32/ControlWindow.h"
 #include "forms/win32/FormLayout.h"
 #include "forms/win32/HandleOf.h"
 #include "forms/win32/Keyboard.h"
@@ -46,6 +48,23 @@ class Peer final : public FormPeer {
  private:
   std::shared_ptr<FormWindow> window_;
 };
+
+// Since Windows 8.1, with the new resolution in both halves of the first parameter.
+constexpr UINT MessageDpiChanged = 0x02E0;
+// What Windows lets users choose, 100 to 500 percent.
+constexpr int LowestDpi = 96;
+constexpr int HighestDpi = 480;
+
+// The actions of WM_SETTINGCHANGE behind which texts are drawn otherwise.
+constexpr UINT FontActions[] = {SPI_SETNONCLIENTMETRICS, SPI_SETFONTSMOOTHING,
+                                SPI_SETFONTSMOOTHINGTYPE};
+
+// The resolution that a window is drawn for: that of its screen, where Windows knows several.
+int DpiOf(HWND window, int otherwise) {
+  auto* const ask = SystemRoutine<UINT WINAPI(HWND)>("user32.dll", "GetDpiForWindow");
+  const UINT dpi = ask != nullptr ? ask(window) : 0;
+  return dpi != 0 ? static_cast<int>(dpi) : otherwise;
+}
 
 // A program with higher rights than the shell hears from it only what it lets in.
 void LetIn(HWND window, UINT message) {
@@ -118,7 +137,18 @@ void FormWindow::CreateHidden() {
   if (!Alive()) throw text::RuntimeError(text::ErrorNumber::OutOfMemory);
   tips_.SetOwner(Handle());
   if (IsMain()) LetIn(Handle(), System().TaskbarCreatedMessage);
+  if (IsMain()) ShowOwnDpi();
   AwaitControls();
+}
+
+// That of the screen which the window was made on.
+void FormWindow::ShowOwnDpi() {
+  const int known = System().Pixels.Dpi();
+  const int dpi = DpiOf(Handle(), known);
+  if (dpi == known) return;
+  System().Renew(dpi);
+  // Not one of the toolkit's loaded windows yet.
+  ShowScale();
 }
 
 // A timer needs no window but the form's.
@@ -331,10 +361,94 @@ void FormWindow::Resized(WPARAM kind) {
   System().Raise([&] { form_.UserResizes(width, height, state); });
 }
 
-void FormWindow::SchemeChanged(UINT message) {
-  System().RefreshColors();
-  if (message == WM_SYSCOLORCHANGE) EnumChildWindows(Handle(), PassSchemeOn, 0);
+void FormWindow::ShowScheme() {
+  if (!Alive() || IsPanel()) return;
+  EnumChildWindows(Handle(), PassSchemeOn, 0);
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// The main window keeps the size and the middle that it has, a panel its place in the main window,
+// a dialog its inside.
+void FormWindow::ShowScale() {
+  const RECT wanted =
+      System().Pixels.Rectangle({form_.Left(), form_.Top(), form_.Width(), form_.Height()});
+  const int width = WidthOf(wanted);
+  const int height = HeightOf(wanted);
+  constexpr UINT Flags = SWP_NOZORDER | SWP_NOACTIVATE;
+  if (IsPanel()) {
+    SetWindowPos(Handle(), nullptr, wanted.left, wanted.top, width, height, Flags);
+  } else if (!IsMain()) {
+    ShowPlace();
+  } else if (!IsZoomed(Handle()) && !IsIconic(Handle())) {
+    const Place now = PlaceOf(Handle());
+    SetWindowPos(Handle(), nullptr, now.Left + (now.Width - width) / 2,
+                 now.Top + (now.Height - height) / 2, width, height, Flags);
+  }
+}
+
+void FormWindow::Renew() {
+  if (!Alive()) return;
+  ShowScale();
+  for (const Control* control : form_.Controls()) {
+    if (!made_) break;
+    const auto window = std::dynamic_pointer_cast<ControlWindow>(System().Find(HandleOf(*control)));
+    // A timer and the face of another control have no window of their own.
+    if (window != nullptr && &window->Model() == control) window->Renew();
+    if (!Alive()) return;
+  }
+  LayOut();
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// The whole program has the main window's scale: a dialog, which lies before it, only keeps its
+// inside from being cut off by a frame of another width.
+void FormWindow::DpiChanged(int dpi, LPARAM suggested) {
+  if (IsPanel() || dpi < LowestDpi || dpi > HighestDpi) return;
+  if (!IsMain()) return ShowPlace();
+  System().Renew(dpi);
+  RECT area{};
+  // The address may be anything: another program may have sent the message.
+  const bool readable = ReadProcessMemory(GetCurrentProcess(), reinterpret_cast<void*>(suggested),
+                                          &area, sizeof area, nullptr) != FALSE;
+  if (readable && Alive() && !IsZoomed(Handle()) && !IsIconic(Handle())) {
+    SetWindowPos(Handle(), nullptr, area.left, area.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  if (Alive()) KeepReachable(Handle());
+}
+
+void FormWindow::SettingChanged(UINT action) {
+  const auto is = [action](UINT other) { return action == other; };
+  if (IsMain() && std::any_of(std::begin(FontActions), std::end(FontActions), is)) {
+    System().Renew(System().Pixels.Dpi());
+  }
+  if (Alive() && action == SPI_SETWORKAREA && !IsPanel()) KeepReachable(Handle());
+}
+
+// What Windows reports to top-level windows. It is followed and still handled as by default.
+bool FormWindow::IsChangeOfScreen(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      System().RefreshColors();
+      ShowScheme();
+      return true;
+    case WM_SETTINGCHANGE:
+      System().RefreshColors();
+      SettingChanged(static_cast<UINT>(first));
+      return true;
+    case WM_FONTCHANGE:
+      if (IsMain()) System().Renew(System().Pixels.Dpi());
+      return true;
+    case WM_DISPLAYCHANGE:
+      if (!IsPanel()) KeepReachable(Handle());
+      return true;
+    case MessageDpiChanged:
+      DpiChanged(LOWORD(first), second);
+      return true;
+    default:
+      return false;
+  }
 }
 
 LRESULT FormWindow::Closing(UINT message, WPARAM first) {
@@ -410,6 +524,9 @@ LRESULT FormWindow::TakeCaption(WPARAM first, LPARAM second) {
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
   if (IsEvent(message, first, second) || IsFocusMove(message, first, second)) return 0;
+  if (Alive() && IsChangeOfScreen(message, first, second) && Alive()) {
+    return Window::OnMessage(message, first, second);
+  }
   if (!Alive()) return 0;
   switch (message) {
     case WM_CLOSE:
@@ -427,11 +544,6 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
       break;
     case WM_SETCURSOR:
       if (LOWORD(second) == HTCLIENT && System().ShowPointer(form_.MousePointer())) return TRUE;
-      break;
-    case WM_SYSCOLORCHANGE:
-    case WM_THEMECHANGED:
-    case WM_SETTINGCHANGE:
-      SchemeChanged(message);
       break;
     case WM_WINDOWPOSCHANGING:
       if (second != 0) AboutToMove(*reinterpret_cast<const WINDOWPOS*>(second));

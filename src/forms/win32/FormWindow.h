@@ -33,6 +33,10 @@ class FormWindow : public Window {
   void Activate();
   // The control gets the focus when the window is active next.
   void FocusLater(HWND control) { lastFocus_ = control; }
+  // Shows the toolkit's scheme, which has changed.
+  void ShowScheme();
+  // Takes the toolkit's scale and fonts, which have changed.
+  void Renew();
   HICON Icon() const { return System().Images.ProgramIcon(true); }
 
   // The controls that Tab visits now: the model's order without what lies under another panel.
@@ -54,6 +58,7 @@ class FormWindow : public Window {
   WindowShape Shape() const;
   HWND DialogOwner() const;
   void AwaitControls();
+  void ShowOwnDpi();
   void ShowVisible();
   void GoBehindDialog() const;
   RECT Measured() const;
@@ -70,7 +75,10 @@ class FormWindow : public Window {
   void EndModal();
   // Brings the latest of the program's other windows that show to the front.
   void ActivateOther() const;
-  void SchemeChanged(UINT message);
+  bool IsChangeOfScreen(UINT message, WPARAM first, LPARAM second);
+  void SettingChanged(UINT action);
+  void DpiChanged(int dpi, LPARAM suggested);
+  void ShowScale();
   bool IsEvent(UINT message, WPARAM first, LPARAM second);
   bool IsFocusMove(UINT message, WPARAM first, LPARAM second);
   bool GoesWithOwner() const;

@@ -1,6 +1,7 @@
 #include "forms/win32/ImageStrips.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrel::forms::win32 {
 namespace {
@@ -126,6 +127,12 @@ HIMAGELIST ImageStrips::ImagesFor(const std::string& list) {
     ImageList_Add(images.Get(), picture.Get(), mask.Get());
   }
   return images.Get();
+}
+
+ImageStrips::Lists ImageStrips::Rescale(Scale scale) {
+  scale_ = scale;
+  strips_.clear();
+  return std::exchange(images_, {});
 }
 
 HICON ImageStrips::ProgramIcon(bool large) const {

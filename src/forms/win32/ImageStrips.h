@@ -26,8 +26,12 @@ class ImageStrips {
   SIZE SizeOf(const std::string& list) const;
   // Draws the 1-based picture into the area, stretched to it.
   void Draw(HDC context, const RECT& area, const std::string& list, int number);
-  // The list for a common control, nullptr without a strip. Lives as long as this.
+  // The list for a common control, nullptr without a strip. Lives until Rescale.
   HIMAGELIST ImagesFor(const std::string& list);
+  // From here on for another scale; gives what was made for the one before, which lives as long as
+  // that.
+  using Lists = std::map<std::string, ImagesHandle>;
+  Lists Rescale(Scale scale);
   // The icon of the program, large or small.
   HICON ProgramIcon(bool large) const;
 
@@ -46,7 +50,7 @@ class ImageStrips {
   Pictures pictures_;
   Scale scale_;
   std::map<std::string, Strip> strips_;
-  std::map<std::string, ImagesHandle> images_;
+  Lists images_;
 };
 
 // A 32-bit bitmap with rows from the top; its pixels, blank at first, through `bits`.

@@ -53,15 +53,32 @@ WindowShape ListViewWindow::Shape() const {
 void ListViewWindow::Prepare() {
   Tell(LVM_SETEXTENDEDLISTVIEWSTYLE, 0,
        LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP | LVS_EX_LABELTIP);
-  if (list_.SmallIcons() != nullptr) {
-    const HIMAGELIST icons = System().Images.ImagesFor(list_.SmallIcons()->QualifiedName());
-    Tell(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons));
-  }
+  ShowIcons();
   if (list_.CheckBoxes()) Tell(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
   AddColumns();
+  dpi_ = System().Pixels.Dpi();
   FillWidth();
   ShowColors();
   ShowRows();
+}
+
+void ListViewWindow::ShowIcons() {
+  if (list_.SmallIcons() == nullptr) return;
+  const HIMAGELIST icons = System().Images.ImagesFor(list_.SmallIcons()->QualifiedName());
+  Tell(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons));
+}
+
+// New fonts alone leave the columns as the user has them, another scale as designed.
+void ListViewWindow::Rescale() {
+  ShowIcons();
+  ShowColors();
+  if (std::exchange(dpi_, System().Pixels.Dpi()) == System().Pixels.Dpi()) return;
+  int index = 0;
+  for (const Column& model : list_.Columns()) {
+    Tell(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(index++),
+         MAKELPARAM(System().Pixels.Pixels(model.Width), 0));
+  }
+  FillWidth();
 }
 
 void ListViewWindow::AddColumns() {

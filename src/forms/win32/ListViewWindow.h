@@ -25,9 +25,11 @@ class ListViewWindow final : public ControlWindow {
  protected:
   WindowShape Shape() const override;
   void Prepare() override;
+  void Rescale() override;
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:
+  void ShowIcons();
   void AddColumns();
   void FillWidth();
   void Gather();
@@ -51,6 +53,7 @@ class ListViewWindow final : public ControlWindow {
 
   ListView& list_;
   ImagesHandle checkMarks_;
+  int dpi_ = 0;            // that the columns are for
   std::size_t shown_ = 0;  // the fingerprint of the rows that show
   int told_ = 0;  // the row that the last change of selection was raised for, until the click
   bool gathering_ = false;

@@ -18,6 +18,7 @@ class StatusBarWindow final : public ControlWindow {
  protected:
   WindowShape Shape() const override;
   void Prepare() override;
+  void Rescale() override { Divide(); }
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:

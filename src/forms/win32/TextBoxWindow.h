@@ -17,6 +17,7 @@ class TextBoxWindow final : public ControlWindow {
  protected:
   WindowShape Shape() const override;
   void Prepare() override;
+  void Rescale() override { Prepare(); }
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:

@@ -5,27 +5,12 @@
 #include <vector>
 
 #include "forms/Placement.h"
-#include "forms/win32/Scale.h"
+#include "forms/win32/FormLayout.h"
 
 namespace vantrel::forms::win32 {
 namespace {
 
 constexpr int WidestTip = 400;  // pixels at 96 dots per inch; longer texts take several lines
-
-Place PlaceOf(const RECT& area) { return {area.left, area.top, WidthOf(area), HeightOf(area)}; }
-
-Place PlaceOf(HWND window) {
-  RECT area{};
-  GetWindowRect(window, &area);
-  return PlaceOf(area);
-}
-
-Place ScreenAround(HWND window) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-  return PlaceOf(monitor.rcWork);
-}
 
 struct Neighbours {
   HWND Control;
@@ -54,12 +39,12 @@ void ToolTips::MakeWindow() {
   controls_.clear();
   tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0,
                           0, owner_, nullptr, GetModuleHandleA(nullptr), nullptr);
-  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, Scale::OfScreen().Scaled(WidestTip));
 }
 
-void ToolTips::Set(HWND control, const std::string& text) {
+void ToolTips::Set(HWND control, const std::string& text, const Scale& scale) {
   if (text.empty() && controls_.count(control) == 0) return;
   MakeWindow();
+  SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, scale.Scaled(WidestTip));
   const bool known = controls_.count(control) != 0;
   TTTOOLINFOA tool{};
   // The first form, which every version of the common controls takes.
@@ -83,7 +68,7 @@ bool ToolTips::Shows(const NMHDR& notice) const {
   EnumChildWindows(owner_, NoteNeighbour, reinterpret_cast<LPARAM>(&around));
   const Place own = PlaceOf(tips_);
   const Place place = TipPlace({own.Width, own.Height}, PlaceOf(around.Control), around.Places,
-                               ScreenAround(around.Control));
+                               WorkAreaAround(around.Control));
   SetWindowPos(tips_, nullptr, place.Left, place.Top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   return true;

@@ -8,6 +8,8 @@
 #include <set>
 #include <string>
 
+#include "forms/win32/Scale.h"
+
 namespace vantrel::forms::win32 {
 
 class ToolTips {
@@ -19,7 +21,7 @@ class ToolTips {
 
   // Sets the tip of a control's window under the owner; the empty text takes it away.
   void SetOwner(HWND owner) { owner_ = owner; }
-  void Set(HWND control, const std::string& text);
+  void Set(HWND control, const std::string& text, const Scale& scale);
   // Takes the notice that a tip is about to show; false if it is none of these.
   bool Shows(const NMHDR& notice) const;
 

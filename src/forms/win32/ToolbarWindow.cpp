@@ -37,6 +37,13 @@ void ToolbarWindow::Prepare() {
   AddButtons();
 }
 
+// A size of pictures holds for the buttons that are added after it.
+void ToolbarWindow::Rescale() {
+  while (Tell(TB_DELETEBUTTON) != FALSE) {
+  }
+  Prepare();
+}
+
 void ToolbarWindow::AddButtons() {
   std::vector<TBBUTTON> buttons;
   int index = 0;

@@ -16,6 +16,7 @@ class ToolbarWindow final : public ControlWindow {
  protected:
   WindowShape Shape() const override;
   void Prepare() override;
+  void Rescale() override;
   LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
  private:

@@ -90,6 +90,11 @@ void UserControlWindow::FaceChanged(Label& face, Aspect aspect) {
   if (aspect != Aspect::Color) FitToText(face, TextFont(), System().Pixels, BorderOf(face));
 }
 
+void UserControlWindow::Rescale() {
+  if (auto* face = dynamic_cast<Label*>(&Face())) FaceChanged(*face, Aspect::Font);
+  Raise([this] { surface_.Resized(); });
+}
+
 void UserControlWindow::PaintSurface(HDC context, const RECT& area) {
   const Control& face = Face();
   const Colors& colors = System().Palette;

@@ -25,6 +25,7 @@ class UserControlWindow : public ControlWindow {
 
  protected:
   WindowShape Shape() const override;
+  void Rescale() override;
   HFONT TextFont() const override { return System().Typefaces.Of(Face().TextFont()); }
   int Pointer() const override;
   const std::string& TipText() const override;

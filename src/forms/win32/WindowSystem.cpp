@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/win32/FormWindow.h"
+#include "forms/win32/HandleOf.h"
 #include "forms/win32/Keyboard.h"
 #include "forms/win32/Window.h"
 
@@ -124,7 +125,27 @@ void WindowSystem::MakeAwaited() {
   }
 }
 
-void WindowSystem::RefreshColors() { Palette.Refresh(); }
+// Those of now: what they are told may load or unload some.
+std::vector<std::shared_ptr<FormWindow>> WindowSystem::FormWindows() const {
+  std::vector<std::shared_ptr<FormWindow>> windows;
+  for (const Form* form : LoadedForms()) {
+    if (auto window = FindForm(HandleOf(*form))) windows.push_back(std::move(window));
+  }
+  return windows;
+}
+
+void WindowSystem::RefreshColors() {
+  if (!Palette.Refresh()) return;
+  for (const auto& window : FormWindows()) window->ShowScheme();
+}
+
+void WindowSystem::Renew(int dpi) {
+  Pixels = Scale(dpi);
+  // What the windows show still goes when they all show the new.
+  const Fonts fonts = std::exchange(Typefaces, Fonts(Pixels));
+  const ImageStrips::Lists lists = Images.Rescale(Pixels);
+  for (const auto& window : FormWindows()) window->Renew();
+}
 
 bool WindowSystem::ShowPointer(int pointer) const {
   const int shown = ScreenPointer() != PointerDefault ? ScreenPointer() : pointer;

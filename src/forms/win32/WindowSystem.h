@@ -45,14 +45,16 @@ class WindowSystem final : public Win32Toolkit {
   // The form's controls are to be made before the program waits for messages.
   void Await(FormWindow& form);
 
-  // The user's scheme has changed.
+  // The user's scheme may have changed: if it has, every window shows it.
   void RefreshColors();
+  // From here on every window is drawn for so many dots per inch, in fonts made anew.
+  void Renew(int dpi);
   // Shows the pointer of the program or, without one, `pointer`; false to leave it to Windows.
   bool ShowPointer(int pointer) const;
   // Lets the window under the mouse show its pointer anew, if it is one of this toolkit's.
   void RefreshPointer() const;
 
-  const Scale Pixels;
+  Scale Pixels;
   Colors Palette;
   Fonts Typefaces;
   ImageStrips Images;
@@ -66,6 +68,7 @@ class WindowSystem final : public Win32Toolkit {
 
  private:
   void Dispatch(MSG& message);
+  std::vector<std::shared_ptr<FormWindow>> FormWindows() const;
   void MakeAwaited();
 
   std::unordered_map<HWND, Window*> windows_;

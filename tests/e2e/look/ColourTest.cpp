@@ -53,6 +53,8 @@ class ColourTest : public LookFixture {
           control.Kind != "ToolbarWindow32") {
         continue;
       }
+      // Pictures are the same under every scheme.
+      if (control.Name.find(".Im") != std::string::npos) continue;
       grounds[control.Name] = GroundWithin(PixelsOf(OnScreen(control.Window)));
     }
     return grounds;
@@ -140,14 +142,16 @@ TEST_P(OtherSchemes, NoSurfaceKeepsTheProgramsOwnColours) {
   EXPECT_TRUE(WaitFor([&] { return GroundsOf("frmMain") == own; }, 2000));
 }
 
+std::string NameOf(const testing::TestParamInfo<inside::Scheme>& tested) {
+  constexpr const char* Names[] = {"Own", "Inverted", "Black", "White"};
+  return Names[static_cast<int>(tested.param)];
+}
+
 INSTANTIATE_TEST_SUITE_P(All, OtherSchemes,
                          testing::Values(inside::Scheme::Inverted,
                                          inside::Scheme::HighContrastBlack,
                                          inside::Scheme::HighContrastWhite),
-                         [](const auto& tested) {
-                           constexpr const char* Names[] = {"", "Inverted", "Black", "White"};
-                           return Names[static_cast<int>(tested.param)];
-                         });
+                         NameOf);
 
 }  // namespace
 }  // namespace vantrel::e2e

@@ -34,8 +34,7 @@ class LookFixture : public ProgramTest {
     before_ = Read(HKEY_CURRENT_USER, DesktopKey, "LogPixels");
   }
   void TearDown() override {
-    inside_.reset();
-    program_.reset();
+    End();
     if (before_) {
       Write(HKEY_CURRENT_USER, DesktopKey, "LogPixels", *before_);
     } else {
@@ -51,6 +50,11 @@ class LookFixture : public ProgramTest {
     copy_ = Copy(program_->ProcessId());
     inside_ = std::make_unique<Inside>(program_->Process());
     main_ = copy_.Find("frmMain");
+  }
+
+  void End() {
+    inside_.reset();
+    program_.reset();
   }
 
   // The visible controls below a window: those of the panel that is given, and of no other.

@@ -7,9 +7,10 @@
 namespace vantrel::e2e {
 namespace {
 
-constexpr int ButtonMargin = 4;    // pixels on each side of a caption
-constexpr int GlyphRoom = 17;      // at 96 dots per inch: a check mark and what lies behind it
-constexpr int CaptionIndent = 11;  // at 96 dots per inch: where a frame's caption begins
+constexpr UINT DpiChanged = 0x02E0;  // WM_DPICHANGED
+constexpr int ButtonMargin = 4;      // pixels on each side of a caption
+constexpr int GlyphRoom = 17;        // at 96 dots per inch: a check mark and what lies behind it
+constexpr int CaptionIndent = 11;    // at 96 dots per inch: where a frame's caption begins
 
 // Names of what shows no text of its own though it has one, for those who cannot see it.
 bool IsSilent(const Seen& control) {
@@ -185,6 +186,53 @@ TEST_P(LookTest, TheMainWindowFitsASmallScreen) {
   const RECT area = OnScreen(Main());
   EXPECT_LE(area.right - area.left, Scaled(800));
   EXPECT_LE(area.bottom - area.top, Scaled(600));
+}
+
+class ResolutionTest : public LookFixture {
+ protected:
+  // Where every control of the main window and its panels lies in its parent, with the height of
+  // its font; without what follows from the frame, which is the desktop's.
+  std::map<std::string, std::string> Places() const {
+    std::map<std::string, std::string> places;
+    for (const auto& [name, window] : Shown().Named()) {
+      if (name.find('.') == std::string::npos || name == "frmMain.sbStatusBar") continue;
+      const RECT area = InParent(window);
+      places[name] = std::to_string(area.left) + "," + std::to_string(area.top);
+      // What spans the window is as wide as that, whose frame is rounded by itself.
+      const bool spans = name == "frmMain.Toolbar1" || name == "frmMain.lblVCP1";
+      if (!spans) places[name] += " wide " + std::to_string(area.right - area.left);
+      // Without a font of its own a window has the system's, which stays as it was at the start.
+      const LONG height = Within().FontOf(window).lfHeight;
+      if (height < 0) places[name] += " font " + std::to_string(height);
+    }
+    return places;
+  }
+  using Rows = std::map<std::string, std::string>;
+  static void ExpectSame(const Rows& places, const Rows& wanted) {
+    EXPECT_EQ(places.size(), wanted.size());
+    for (const auto& [name, place] : wanted) {
+      const auto found = places.find(name);
+      EXPECT_EQ(found == places.end() ? "" : found->second, place) << name;
+    }
+  }
+  void OpenAll() const {
+    for (const Screen& screen : Panels) ASSERT_TRUE(Shown().Open(screen)) << screen.Panel;
+  }
+};
+
+TEST_F(ResolutionTest, AChangeOfItIsAsAFreshStart) {
+  constexpr int Other = 144;
+  Start(Other);
+  OpenAll();
+  const auto fresh = Places();
+  End();
+  Start();
+  OpenAll();
+  const auto before = Places();
+  SendMessageA(Main(), DpiChanged, MAKEWPARAM(Other, Other), 0);
+  ExpectSame(Places(), fresh);
+  SendMessageA(Main(), DpiChanged, MAKEWPARAM(DesignDpi, DesignDpi), 0);
+  ExpectSame(Places(), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllResolutions, LookTest, testing::Values(96, 120, 144, 192),

@@ -21,6 +21,8 @@
 #include "forms/ListView.h"
 #include "forms/UserControl.h"
 #include "forms/win32/Colors.h"
+#include "forms/win32/Handles.h"
+#include "forms/win32/Painting.h"
 
 namespace vantrel::forms::win32 {
 namespace {
@@ -1037,8 +1039,164 @@ TEST_F(RealWindows, NothingIsLeftOfAWindowThatWasUnloaded) {
   };
   cycle();
   const unsigned before = LastPlace();
-  for (int count = 0; count < 50; ++count) cycle();
-  EXPECT_LE(LastPlace(), before + 8);
+  for (int count = 0; count < 12; ++count) cycle();
+  EXPECT_LE(LastPlace(), before + 6);
+}
+
+constexpr UINT DpiChanged = 0x02E0;  // WM_DPICHANGED
+
+class ChangesOfScreen : public RealWindows {
+ protected:
+  void SetDpi(int dpi) {
+    SendMessageA(HandleOf(form), DpiChanged, static_cast<WPARAM>(MAKELONG(dpi, dpi)), 0);
+  }
+  // A timer has no window at all.
+  bool GoesWithTheInside(const Control& control) const {
+    return control.Anchored() != Anchors{} || control.Peer() == nullptr ||
+           HandleOf(control) == nullptr;
+  }
+  // Where every control lies in its parent, but for those that go with the window's inside: the
+  // frame around that is the desktop's.
+  std::vector<std::string> Places() const {
+    std::vector<std::string> places;
+    for (const Control* control : form.Controls()) {
+      if (GoesWithTheInside(*control)) continue;
+      const RECT area = PlaceOf(*control);
+      places.push_back(control->Name() + ": " + std::to_string(area.left) + ", " +
+                       std::to_string(area.top) + " to " + std::to_string(area.right) + ", " +
+                       std::to_string(area.bottom));
+    }
+    return places;
+  }
+  LOGFONTA FontOf(const Control& control) const {
+    LOGFONTA font{};
+    const LRESULT handle = SendMessageA(HandleOf(control), WM_GETFONT, 0, 0);
+    EXPECT_NE(GetObjectA(reinterpret_cast<HGDIOBJ>(handle), sizeof font, &font), 0)
+        << control.Name();
+    return font;
+  }
+  static RECT WorkArea() {
+    RECT area{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+  }
+  static bool LiesWithin(const RECT& area, const RECT& around) {
+    RECT common{};
+    return IntersectRect(&common, &area, &around) && EqualRect(&common, &area);
+  }
+  RECT OnScreen() const {
+    RECT area{};
+    GetWindowRect(HandleOf(form), &area);
+    return area;
+  }
+  COLORREF Ground() const {
+    const WindowContext context(HandleOf(form));
+    RedrawWindow(HandleOf(form), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return GetPixel(context.Get(), 5, ClientArea(HandleOf(form)).bottom - 60);
+  }
+};
+
+TEST_F(ChangesOfScreen, ANewResolutionScalesPlacesAndFonts) {
+  const std::vector<std::string> before = Places();
+  const RECT push = PlaceOf(form.Push);
+  const RECT main = OnScreen();
+  const LONG height = FontOf(form.Push).lfHeight;
+  SetDpi(144);
+  EXPECT_DOUBLE_EQ(toolkit->TwipsPerPixelX(), 10);
+  EXPECT_EQ(OnScreen().right - OnScreen().left, MulDiv(main.right - main.left, 3, 2));
+  EXPECT_EQ(form.Width(), 9300);
+  EXPECT_EQ(PlaceOf(form.Push).left, MulDiv(push.left, 3, 2));
+  EXPECT_EQ(PlaceOf(form.Push).right, MulDiv(push.right, 3, 2));
+  EXPECT_NEAR(FontOf(form.Push).lfHeight, height * 1.5, 1);
+  SetDpi(96);
+  EXPECT_EQ(Places(), before);
+  EXPECT_EQ(FontOf(form.Push).lfHeight, height);
+  EXPECT_EQ(OnScreen().right - OnScreen().left, main.right - main.left);
+}
+
+TEST_F(ChangesOfScreen, AWindowMadeLaterIsAsOneThatHasFollowed) {
+  SetDpi(144);
+  const std::vector<std::string> followed = Places();
+  Everything later(*toolkit);
+  later.Show();
+  const auto heightOf = [](const Control& control) {
+    return PlaceOf(control).bottom - PlaceOf(control).top;
+  };
+  for (std::size_t index = 0; index < form.Controls().size(); ++index) {
+    const Control& one = *form.Controls()[index];
+    const Control& other = *later.Controls()[index];
+    if (GoesWithTheInside(one)) continue;
+    const RECT followedPlace = PlaceOf(one);
+    const RECT freshPlace = PlaceOf(other);
+    EXPECT_TRUE(EqualRect(&followedPlace, &freshPlace))
+        << one.Name() << " " << heightOf(one) << " " << heightOf(other);
+  }
+  for (const UINT column : {0U, 1U}) {
+    EXPECT_EQ(SendMessageA(HandleOf(form.List), LVM_GETCOLUMNWIDTH, column, 0),
+              SendMessageA(HandleOf(later.List), LVM_GETCOLUMNWIDTH, column, 0));
+  }
+  EXPECT_EQ(SendMessageA(HandleOf(form.Tools), TB_GETBUTTONSIZE, 0, 0),
+            SendMessageA(HandleOf(later.Tools), TB_GETBUTTONSIZE, 0, 0));
+  EXPECT_EQ(SendMessageA(HandleOf(form.Tools), TB_BUTTONCOUNT, 0, 0), 3);
+  later.Unload();
+}
+
+TEST_F(ChangesOfScreen, WhatIsNoResolutionIsNotFollowed) {
+  for (const int dpi : {0, 1, 95, 481, 65535}) {
+    SetDpi(dpi);
+    EXPECT_DOUBLE_EQ(toolkit->TwipsPerPixelX(), 15) << dpi;
+  }
+  // Nor is an address that another program made up.
+  SendMessageA(HandleOf(form), DpiChanged, MAKELONG(96, 96), 0x7777);
+  EXPECT_TRUE(LiesWithin(OnScreen(), WorkArea()));
+}
+
+TEST_F(ChangesOfScreen, FontsAreMadeAnew) {
+  // A face that was installed or removed stands behind the same name.
+  const LOGFONTA before = FontOf(form.Push);
+  const LRESULT old = SendMessageA(HandleOf(form.Push), WM_GETFONT, 0, 0);
+  for (const auto& [message, first] :
+       {std::pair<UINT, WPARAM>{WM_FONTCHANGE, 0}, {WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS}}) {
+    SendMessageA(HandleOf(form), message, first, 0);
+    EXPECT_NE(SendMessageA(HandleOf(form.Push), WM_GETFONT, 0, 0), old) << message;
+    EXPECT_EQ(FontOf(form.Push).lfHeight, before.lfHeight);
+    SendMessageA(HandleOf(form.Push), WM_SETFONT, static_cast<WPARAM>(old), FALSE);
+  }
+}
+
+TEST_F(ChangesOfScreen, TheWindowComesBackToTheScreen) {
+  for (const auto& [message, first] :
+       {std::pair<UINT, WPARAM>{WM_DISPLAYCHANGE, 32}, {WM_SETTINGCHANGE, SPI_SETWORKAREA}}) {
+    SetWindowPos(HandleOf(form), nullptr, 5000, 4000, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SendMessageA(HandleOf(form), message, first, MAKELPARAM(1024, 768));
+    EXPECT_TRUE(LiesWithin(OnScreen(), WorkArea())) << message;
+  }
+}
+
+TEST_F(ChangesOfScreen, TheChoiceOfHighContrastIsFollowed) {
+  const COLORREF own = Ground();
+  highContrast = true;
+  SendMessageA(HandleOf(form), WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST, 0);
+  EXPECT_EQ(Ground(), GetSysColor(COLOR_WINDOW));
+  EXPECT_NE(Ground(), own);
+  highContrast = false;
+  SendMessageA(HandleOf(form), WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST, 0);
+  EXPECT_EQ(Ground(), own);
+}
+
+TEST_F(ChangesOfScreen, ADozenOfThemLeavesNothingBehind) {
+  const auto cycle = [&] {
+    for (const int dpi : {144, 96}) SetDpi(dpi);
+    highContrast = !highContrast;
+    SendMessageA(HandleOf(form), WM_SYSCOLORCHANGE, 0, 0);
+    SendMessageA(HandleOf(form), WM_FONTCHANGE, 0, 0);
+    toolkit->DoEvents();
+  };
+  cycle();
+  cycle();
+  const unsigned before = LastPlace();
+  for (int count = 0; count < 12; ++count) cycle();
+  EXPECT_LE(LastPlace(), before + 6);
 }
 
 }  // namespace

@@ -89,5 +89,27 @@ TEST(TipPlacement, NeighboursThatOnlyTouchAreNotCovered) {
             (Place{440, 300, 120, 20}));
 }
 
+constexpr Place SmallScreen{0, 0, 800, 600};
+
+TEST(ReachablePlace, AWindowOnTheScreenStays) {
+  for (const Place& window : {Place{0, 0, 620, 467}, {180, 133, 620, 467}, {90, 60, 620, 467}}) {
+    EXPECT_EQ(ReachablePlace(window, SmallScreen), window);
+  }
+}
+
+TEST(ReachablePlace, AWindowBesideTheScreenIsMovedNoFurtherThanItMust) {
+  EXPECT_EQ(ReachablePlace({1500, 900, 620, 467}, SmallScreen), (Place{180, 133, 620, 467}));
+  EXPECT_EQ(ReachablePlace({-5000, 50, 620, 467}, SmallScreen), (Place{0, 50, 620, 467}));
+  EXPECT_EQ(ReachablePlace({50, -1, 620, 467}, SmallScreen), (Place{50, 0, 620, 467}));
+}
+
+TEST(ReachablePlace, OfALargerWindowTheCaptionCanBeReached) {
+  EXPECT_EQ(ReachablePlace({100, 100, 930, 700}, SmallScreen), (Place{0, 0, 930, 700}));
+}
+
+TEST(ReachablePlace, AScreenNeedNotBeginAtZero) {
+  EXPECT_EQ(ReachablePlace({0, 0, 620, 467}, {-1280, 30, 1280, 994}), (Place{-620, 30, 620, 467}));
+}
+
 }  // namespace
 }  // namespace vantrel::forms
