@@ -336,8 +336,9 @@ TEST_F(BackupTest, FilesInTheOldFormAreImported) {
                  "REGEDIT4\r\n\r\n" + key + "VantrelProbe]\r\n\"old\"=\"form\"\r\n");
   WriteFileBytes(Default() + "\\LOCAL_IE_SETTINGS_RUN.reg", "REGEDIT4\r\n");
   Restore(program, Restored);
-  const std::string probe = "Software\\Microsoft\\Internet Explorer\\VantrelProbe";
-  EXPECT_EQ(vantrel::e2e::Read(HKEY_CURRENT_USER, probe, "old"), Text("form"));
+  // What the editor puts behind the text's end is its own affair.
+  const std::string printed = Reg(std::string("query ") + ProbeKey + " /v old");
+  EXPECT_NE(printed.find("REG_SZ    form"), std::string::npos) << printed;
 }
 
 TEST_F(BackupTest, DateFilesOfOtherContentAreShownAsFarAsTextGoes) {

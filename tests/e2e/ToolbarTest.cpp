@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "support/OwnersMemory.h"
+#include "support/Pointer.h"
 #include "support/ProgramTest.h"
 
 namespace vantrel::e2e {
@@ -85,9 +86,8 @@ class ToolbarTest : public ProgramTest {
   void ClickRow(const char* list, int row) const {
     const RECT area = AreaOf(list, row);
     const LPARAM at = MAKELPARAM(area.left + 4, (area.top + area.bottom) / 2);
-    PostMessageA(Program().Find(list), WM_LBUTTONDOWN, MK_LBUTTON, at);
-    PostMessageA(Program().Find(list), WM_LBUTTONUP, 0, at);
-    EXPECT_TRUE(WaitFor([&] { return SelectedIn(list) == row; })) << list << ' ' << row;
+    EXPECT_TRUE(PressInList(Program().Find(list), at));
+    EXPECT_EQ(SelectedIn(list), row) << list;
   }
   void Click(const std::string& control) const {
     EXPECT_TRUE(Program().Click(std::string(Dialog) + '.' + control)) << control;
