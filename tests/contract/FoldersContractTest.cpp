@@ -114,6 +114,14 @@ TEST_P(FoldersContract, LongNamesAreListedWhole) {
   EXPECT_EQ(folders_.DeleteFileA(folder_ + "\\" + name), 0);
 }
 
+// Windows has a second, short name for it, which no listing gives.
+TEST_P(FoldersContract, ANameThatFitsInEightLettersIsListedAsItIsWritten) {
+  Put("\\short.TXT");
+  Put("\\Longer than that.TXT");
+  EXPECT_THAT(Names(folder_ + "\\*.txt"),
+              UnorderedElementsAre("short.TXT", "Longer than that.TXT"));
+}
+
 TEST_P(FoldersContract, APathOf260CharactersNamesNothing) {
   const std::string longest = folder_ + "\\" + std::string(258 - folder_.size(), 'n');
   const std::string path = longest + "n";
@@ -349,6 +357,26 @@ TEST_P(BinaryFilesContract, NoOpenFileHasNoLengthAndNoBytes) {
   EXPECT_EQ(count, 0U);
   EXPECT_EQ(files_.WriteAt(0, 0, "x"), ErrorInvalidHandle);
   files_.CloseFile(0);
+}
+
+class RecycleBinContract : public ContractTest {};
+
+INSTANTIATE_TEST_SUITE_P(All, RecycleBinContract, AllKinds, KindName);
+
+TEST_P(RecycleBinContract, IsEmptiedAndStaysEmpty) {
+  const std::string folder = subject_->Folder();
+  for (const char* name : {"\\one", "\\two"}) {
+    subject_->PutFile(folder + name, "x");
+    if (!subject_->Recycle(folder + name)) GTEST_SKIP() << "the bin is not this run's own";
+    EXPECT_FALSE(subject_->ReadFile(folder + name)) << name;
+  }
+  ASSERT_EQ(subject_->ItemsInBin(), 2);
+  EXPECT_EQ(platform_.shell.SHEmptyRecycleBinA(0, "", SherbNoConfirmation), 0);
+  EXPECT_EQ(subject_->ItemsInBin(), 0);
+  // What an empty one gives is the system's own; it stays empty.
+  platform_.shell.SHEmptyRecycleBinA(0, "", SherbNoConfirmation);
+  platform_.shell.SHUpdateRecycleBinIcon();
+  EXPECT_EQ(subject_->ItemsInBin(), 0);
 }
 
 class SpecialFoldersContract : public ContractTest {};

@@ -62,6 +62,12 @@ class MemorySubject : public Subject {
     world_.libraries.Register(
         path, {{"DllRegisterServer", [] { return 7; }}, {"Hang", memory::Libraries::Hangs}});
   }
+  bool Recycle(const std::string& path) override {
+    world_.recycleBin.push_back(path);
+    world_.files.Remove(path);
+    return true;
+  }
+  int ItemsInBin() override { return static_cast<int>(world_.recycleBin.size()); }
   void ChooseHighContrast(bool chosen) override { world_.highContrast = chosen; }
   void LetGo() override { world_.libraries.Release(); }
 

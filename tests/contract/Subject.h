@@ -52,6 +52,10 @@ class Subject {
   virtual void PutLibrary(const std::string& path) = 0;
   virtual void LetGo() = 0;
 
+  // Puts a file into the Recycle Bin; false where that is not the run's own.
+  virtual bool Recycle(const std::string& path) = 0;
+  virtual int ItemsInBin() = 0;
+
   virtual void ChooseHighContrast(bool chosen) = 0;
 
   // A window of 100 by 50 pixels at the place, without title bar, visible; with a parent it is its

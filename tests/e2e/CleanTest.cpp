@@ -4,11 +4,11 @@
 
 // After windows.h.
 #include <commctrl.h>
-#include <shellapi.h>
 
 #include "support/CleanPanelTest.h"
 #include "support/Folders.h"
 #include "support/OwnersMemory.h"
+#include "support/win32/RecycleBin.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -62,22 +62,6 @@ class Held {
  private:
   HANDLE thread_;
 };
-
-std::int64_t ItemsInBin() {
-  SHQUERYRBINFO info{};
-  info.cbSize = sizeof info;
-  SHQueryRecycleBinA(nullptr, &info);
-  return info.i64NumItems;
-}
-
-void Recycle(const std::string& path) {
-  const std::string list = path + '\0';
-  SHFILEOPSTRUCTA operation{};
-  operation.wFunc = FO_DELETE;
-  operation.pFrom = list.c_str();
-  operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-  ASSERT_EQ(SHFileOperationA(&operation), 0);
-}
 
 class CleanTest : public CleanPanelTest {
  protected:
@@ -263,16 +247,18 @@ TEST_F(CleanTest, AFullRecycleBinIsEmptied) {
   PutFile(folders_.Outside + "\\one", "1");
   PutFile(folders_.Outside + "\\two", "22");
   PutFile(folders_.Outside + "\\three", "333");
-  for (const char* name : {"\\one", "\\two", "\\three"}) Recycle(folders_.Outside + name);
-  ASSERT_EQ(ItemsInBin(), 3);
+  for (const char* name : {"\\one", "\\two", "\\three"}) {
+    ASSERT_TRUE(tests::Recycle(folders_.Outside + name));
+  }
+  ASSERT_EQ(tests::ItemsInBin(), 3);
   const Running program;
   Open(program);
   Select(program, {"chkCacheHURL"});
   Delete(program);
-  EXPECT_EQ(ItemsInBin(), 3);
+  EXPECT_EQ(tests::ItemsInBin(), 3);
   Select(program, {"chkWindowsRB"});
   Delete(program);
-  EXPECT_EQ(ItemsInBin(), 0);
+  EXPECT_EQ(tests::ItemsInBin(), 0);
   // An empty one is emptied all the same.
   Delete(program);
 }

@@ -10,6 +10,7 @@
 #include "platform/win32/Handle.h"
 #include "platform/win32/Win32Platform.h"
 #include "support/win32/HighContrast.h"
+#include "support/win32/RecycleBin.h"
 
 namespace vantrel::platform::contract {
 namespace {
@@ -63,6 +64,10 @@ class Win32Subject : public Subject {
   platform::Platform Platform() override { return own_->Platform(); }
 
   // Not for the whole desktop: every other program would follow.
+  bool Recycle(const std::string& path) override {
+    return tests::HasOwnRecycleBin() && tests::Recycle(path);
+  }
+  int ItemsInBin() override { return tests::ItemsInBin(); }
   void ChooseHighContrast(bool chosen) override {
     ASSERT_TRUE(tests::ChooseHighContrast(GetModuleHandleA(nullptr), chosen));
   }

@@ -5,12 +5,12 @@
 #include <shlobj.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
 
 #include "support/Folders.h"
+#include "support/win32/RecycleBin.h"
 
 namespace vantrel::e2e {
 namespace {
@@ -31,19 +31,11 @@ const ShellFolder Moved[] = {{"Cache", CSIDL_INTERNET_CACHE, &UserFolders::Inter
 
 KeptValue Kept(int row) { return {HKEY_CURRENT_USER, ShellFolders, Moved[row].Name}; }
 
-std::string Variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
-
 // Wine shows the machine's own disk to its programs and empties the Recycle Bin of the machine's
 // user: both must be this run's own.
 void CheckMachine() {
   if (GetProcAddress(GetModuleHandleA("ntdll"), "wine_get_version") == nullptr) return;
-  const std::string prefix = Variable("WINEPREFIX");
-  if (prefix.empty() || !Variable("XDG_DATA_HOME").starts_with(prefix)) {
-    throw std::runtime_error("the Recycle Bin is not this run's own");
-  }
+  if (!tests::HasOwnRecycleBin()) throw std::runtime_error("the Recycle Bin is not this run's own");
 }
 
 void Visit(const std::string& folder, const std::function<void(const WIN32_FIND_DATAA&)>& visit) {

@@ -531,14 +531,19 @@ TEST_F(PluginPanel, TheCallsOfALoadStandInTheirOrder) {
 }
 
 TEST_F(PluginPanel, ALongListIsThereRowByRow) {
-  constexpr int Count = 300;
-  for (int i = 0; i < Count; ++i) Helper("{" + std::to_string(1000 + i) + "}", "Helper");
-  int shown = 0;
-  toolkit.DuringDoEvents = [&] { EXPECT_EQ(List().Count(), ++shown); };
+  constexpr int Helpers = 300;
+  constexpr int Libraries = 700;
+  for (int i = 0; i < Helpers; ++i) Helper("{" + std::to_string(1000 + i) + "}", "Helper");
+  for (int i = 0; i < Libraries; ++i) Library(std::to_string(1000 + i) + ".dll", "Product");
+  std::vector<int> counts;
+  toolkit.DuringDoEvents = [&] { counts.push_back(List().Count()); };
   Panel();
-  EXPECT_EQ(shown, Count);
-  EXPECT_EQ(List().Item(Count).Key(), "B299");
-  EXPECT_EQ(Total(), " Total:300 BHO's/Plug-ins found.");
+  // Shown with the helpers one by one, and again while the libraries are listed and read.
+  ASSERT_GE(counts.size(), static_cast<std::size_t>(Helpers));
+  for (int i = 0; i < Helpers; ++i) ASSERT_EQ(counts[i], i + 1);
+  EXPECT_EQ(List().Item(Helpers).Key(), "B299");
+  EXPECT_EQ(List().Count(), Helpers + Libraries);
+  EXPECT_EQ(Total(), " Total:1000 BHO's/Plug-ins found.");
 }
 
 }  // namespace
