@@ -220,5 +220,28 @@ TEST_F(CookiesTest, WhatStandsInTheBoxIsWhatIsDeleted) {
   ExpectInternetExplorersView(program);
 }
 
+TEST_F(CookiesTest, HostileTextsInTheBoxDeleteNothing) {
+  const std::string& top = folders_.Outside;
+  const std::string typed = top + "\\typed";
+  PutFile(typed + "\\a");
+  PutFile(top + "\\file");
+  const Running program;
+  Open(program);
+  // The roots of drives, and texts that lead there, are tried in memory alone: what a mistake would
+  // delete is the machine's.
+  for (const std::string& text :
+       {std::string("NUL"), std::string("\\\\server\\share"), top + "\\*", typed + ".", typed + " ",
+        typed + "\\..", typed + "\\NUL", top + "\\file", top + "\\none", typed.substr(3),
+        "\\\\.\\" + typed, "\\\\?\\" + typed, typed + "\\" + std::string(300, 'x')}) {
+    program.SetText(Control("txtcookies"), text);
+    Delete(program);
+    EXPECT_EQ(NamesIn(top), (Rows{"file", "typed"})) << text;
+    EXPECT_EQ(NamesIn(typed), Rows{"a"}) << text;
+    EXPECT_EQ(ReadFileBytes(typed + "\\a"), "x") << text;
+  }
+  EXPECT_EQ(NamesIn(folders_.Cookies).size(), 2U);
+  EXPECT_TRUE(program.Answers());
+}
+
 }  // namespace
 }  // namespace vantrel::e2e
