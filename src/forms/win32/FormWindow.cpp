@@ -215,12 +215,22 @@ void FormWindow::ShowVisible() {
     return;
   }
   MakeControls();
+  if (IsPanel()) return ShowPanel();
   if (!std::exchange(placed_, true)) Center();
   GoBehindDialog();
   ShowWindow(Handle(), ShowCommand());
   // A process that was started hidden has its first window hidden, whatever it asks for.
   if (form_.Visible() && !IsVisibleItself(Handle())) ShowWindow(Handle(), ShowCommand());
   PaintAtOnce();
+}
+
+// Windows would erase each control by itself first; so each is erased with its paint.
+void FormWindow::ShowPanel() const {
+  SetWindowPos(
+      Handle(), nullptr, 0, 0, 0, 0,
+      SWP_SHOWWINDOW | SWP_NOREDRAW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  RedrawWindow(Handle(), nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 // Shown while a dialog keeps the other windows from being used, it takes no input either.

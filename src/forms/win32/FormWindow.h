@@ -66,6 +66,7 @@ class FormWindow : public Window {
   void ShowState();
   int ShowCommand() const;
   void Center();
+  void ShowPanel() const;
   void PaintAtOnce() const;
   void Resized(WPARAM kind);
   void LayOut();
