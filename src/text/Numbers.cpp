@@ -18,9 +18,7 @@ int HexDigit(char c) {
   return -1;
 }
 
-bool StartsHex(std::string_view text) {
-  return text.size() >= 2 && text[0] == '&' && (text[1] == 'h' || text[1] == 'H');
-}
+bool StartsHex(std::string_view text) { return text.starts_with("&h") || text.starts_with("&H"); }
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;

@@ -69,10 +69,10 @@ std::string_view TakeLine(std::string_view& text) {
 }
 
 std::string GroupedNumber(double number, std::string_view separator) {
-  const double whole = std::round(std::fabs(number));
+  const double whole = std::round(number);
   if (!std::isfinite(whole)) return "0";
-  const std::string digits = Digits(whole);
-  std::string result = number < 0 && whole > 0 ? "-" : "";
+  const std::string digits = Digits(std::fabs(whole));
+  std::string result = whole < 0 ? "-" : "";
   for (std::size_t i = 0; i < digits.size(); ++i) {
     if (i > 0 && (digits.size() - i) % 3 == 0) result += separator;
     result += digits[i];

@@ -169,12 +169,13 @@ TEST_F(Statistics, TheDetailLogsOwnReadWritesZerosOnlyWithoutABlockLog) {
   FrmFrameLog::GetBlockLog(program);
   EXPECT_THAT(Writes(), IsEmpty());
   RemoveValue("Block Log", "Popup");
+  Graph().txtPop.SetText("11");
   FrmFrameLog::GetBlockLog(program);
   EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
   EXPECT_THAT(Writes(), testing::SizeIs(5));
   EXPECT_EQ(Writes()[0], "Block Log \"Popup\" 4 0 0 0 0 -> 0");
   EXPECT_EQ(Writes()[4], "Block Log \"Flash\" 4 0 0 0 0 -> 0");
-  EXPECT_EQ(Total(), "Total: 15 Ads blocked.") << "of the boxes, not of the zeros";
+  EXPECT_EQ(Total(), "Total: 25 Ads blocked.") << "of the boxes, not of the zeros";
 }
 
 TEST_F(Statistics, TheDetailLogMadeFirstOverAnEmptyKeyFillsIt) {
@@ -201,9 +202,10 @@ TEST_F(Statistics, WithoutItsKeyTheDetailLogsOwnReadCreatesNone) {
 
 TEST_F(Statistics, ClearingWritesZerosOnlyWithABlockLog) {
   Open({1, 2, 3, 4, 5});
+  Graph().txtPop.SetText("11");
   ClearBlockLog(program);
   EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0, 0));
-  EXPECT_EQ(Total(), "Total: 15 Ads blocked.") << "of the boxes, not of the zeros";
+  EXPECT_EQ(Total(), "Total: 25 Ads blocked.") << "of the boxes, not of the zeros";
   RemoveValue("Block Log", "Popup");
   process.Trace().Clear();
   ClearBlockLog(program);
@@ -235,6 +237,15 @@ TEST_F(Statistics, ARefreshSelectsTheFirstRow) {
   Log().lstLog.Select(4);
   RefreshCounters(program);
   EXPECT_EQ(Log().lstLog.SelectedIndex(), 1);
+}
+
+TEST_F(Statistics, ARefreshReplacesAListThatIsNotWhole) {
+  Open({1, 2, 3, 4, 5});
+  Log().lstLog.Clear();
+  Log().lstLog.Add("P", "Popup Windows", "");
+  RefreshCounters(program);
+  EXPECT_THAT(process.Boxes(), IsEmpty());
+  EXPECT_THAT(Rows(), testing::SizeIs(5));
 }
 
 TEST_F(Statistics, TheChartIsDrawnOnceAtThePanelsMaking) {

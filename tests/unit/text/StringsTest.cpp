@@ -22,6 +22,8 @@ TEST(Trim, LeavesOtherWhiteSpace) { EXPECT_EQ("\ta\r\n", Trim(" \ta\r\n ")); }
 TEST(Case, FoldsAsciiLettersOnly) {
   EXPECT_EQ("abc-\xC4", LowerCase("AbC-\xC4"));
   EXPECT_EQ("ABC-\xE4", UpperCase("aBc-\xE4"));
+  EXPECT_EQ("@az[`az{", LowerCase("@AZ[`az{"));
+  EXPECT_EQ("@AZ[`AZ{", UpperCase("@AZ[`az{"));
 }
 
 TEST(EqualIgnoringCase, ComparesWholeTexts) {
