@@ -22,9 +22,11 @@ std::size_t BehindRoot(const std::string& path) {
   }
   if (path.size() < 3 || !IsSlash(path[0]) || !IsSlash(path[1])) return std::string::npos;
   if (path[2] == '.' || path[2] == '?') return std::string::npos;  // a device
-  const std::size_t share = path.find_first_of(Slashes, 2);
-  const std::size_t behind =
-      share == std::string::npos ? share : path.find_first_of(Slashes, share + 1);
+  // Slashes in a row are one for the system: an empty name would pass a share off as a folder.
+  if (IsSlash(path[2])) return std::string::npos;
+  const std::size_t server = path.find_first_of(Slashes, 2);
+  const std::size_t share = path.find_first_not_of(Slashes, server);
+  const std::size_t behind = path.find_first_of(Slashes, share);
   return behind == std::string::npos ? behind : behind + 1;
 }
 

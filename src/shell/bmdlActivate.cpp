@@ -27,7 +27,7 @@ bool EnumTopWindowsProc(Program& program, WindowHandle window) {
 std::string GetWindowCaption(platform::Desktop& desktop, WindowHandle window) {
   std::array<char, 128> buffer{};
   const int count = desktop.GetWindowTextA(window, buffer);
-  return count > 0 ? std::string(buffer.data(), static_cast<std::size_t>(count)) : std::string();
+  return {buffer.data(), static_cast<std::size_t>(count)};
 }
 
 WindowHandle FindWindowByCaption(Program& program, const std::string& caption) {

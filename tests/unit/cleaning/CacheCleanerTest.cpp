@@ -290,6 +290,15 @@ TEST_F(RemovedTree, WhatAListingGaveBeforeItFailedGoes) {
   EXPECT_THAT(world.files.List("C:\\t"), ElementsAre("c"));
 }
 
+TEST_F(RemovedTree, AnEmptiedFolderStaysWhenItsListingFailed) {
+  Put("C:\\t\\f");
+  process.Faults().SetEntriesBeforeFailure(3);
+  process.Faults().FailCall("ListFolder", 2, platform::ErrorAccessDenied);
+  EXPECT_THROW(RmTree(program, "C:\\t"), text::RuntimeError);
+  EXPECT_FALSE(Exists("C:\\t\\f"));
+  EXPECT_TRUE(Exists("C:\\t"));
+}
+
 TEST_F(RemovedTree, ALinkIsRemovedItself) {
   Put("C:\\outside\\f");
   world.files.MakeFolder("C:\\t");

@@ -120,6 +120,20 @@ TEST_F(CleaningSizes, TheCookiesShowSizePathAndFiles) {
                                   std::string(CookiesFolder) + "\\user@site.txt|user@site.txt|ie"));
 }
 
+TEST_F(CleaningSizes, ASecondScanListsTheCookiesAnew) {
+  Put(std::string(CookiesFolder) + "\\gone.txt");
+  ShowIECookies(program);
+  world.files.Remove(std::string(CookiesFolder) + "\\gone.txt");
+  ShowIECookies(program);
+  EXPECT_THAT(Urls(), ElementsAre(std::string(CookiesFolder) + "\\..|..|ie"));
+}
+
+TEST_F(CleaningSizes, ABackslashTooManyIsTakenOutOfAPath) {
+  world.specialFolders[fileutil::CSIDL_RECENT] = "C:\\\\User//Recent\\";
+  ShowCacheSizes(program);
+  EXPECT_THAT(Paths(), ElementsAre(Internet, Recent, History, Temporary));
+}
+
 TEST_F(CleaningSizes, WithoutACookiesFolderTheOneOfTheLastScanIsShown) {
   Put(std::string(CookiesFolder) + "\\c", std::string(2048, 'x'));
   ShowIECookies(program);

@@ -34,6 +34,10 @@ TEST(CleaningTarget, IsNoRelativePathAndNoRoot) {
                            "\\\\server",
                            "\\\\server\\share",
                            "\\\\server\\share\\",
+                           "\\\\server\\\\share",
+                           "\\\\\\server\\share",
+                           "f\\server\\share\\f",
+                           "\\folder\\share\\f",
                            "file:///C:/f",
                            "%TEMP%"}) {
     EXPECT_FALSE(IsCleaningTarget(path)) << path;

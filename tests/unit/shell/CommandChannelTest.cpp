@@ -261,6 +261,8 @@ TEST_F(CommandChannel, ACaptionIsCutAt127Characters) {
   const auto window = world.desktop.MakeWindow(77, 0, std::string(300, 'w'));
   EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, window), std::string(127, 'w'));
   EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, 0), "");
+  const auto narrow = world.desktop.MakeWindow(77, 0, "w");
+  EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, narrow), "w");
 }
 
 TEST_F(CommandChannel, OneGulpLoadsAndShowsTheToolbarsDialog) {
