@@ -18,9 +18,6 @@ namespace {
 using program::Program;
 using windows::FrmFrameHistory;
 
-constexpr int Hourglass = 11;
-constexpr int DefaultPointer = 0;
-
 // What a box selects: the folder that a label's tool tip names, with a file of it that is tried
 // once more by name; lists in the registry; the Recycle Bin.
 struct FolderTarget {
@@ -105,7 +102,7 @@ struct Cleaner {
 
 void CmdDeleteCache_Click(Program& program) {
   FrmFrameHistory& panel = *program.windows.FrmFrameHistory;
-  panel.SetMousePointer(Hourglass);
+  panel.SetMousePointer(forms::PointerHourglass);
   panel.lblcleaningstatus.SetCaption("Deleting please wait...");
   for (const Target& target : Targets) {
     if ((panel.*target.Box).Value() == forms::Checked) {
@@ -113,7 +110,7 @@ void CmdDeleteCache_Click(Program& program) {
     }
   }
   ShowCacheSizes(program);
-  panel.SetMousePointer(DefaultPointer);
+  panel.SetMousePointer(forms::PointerDefault);
   panel.lblcleaningstatus.SetCaption("Done");
   // A standing remark, shown whatever was removed.
   program.windows.frmMain->sbStatusBar.SetPanelText(

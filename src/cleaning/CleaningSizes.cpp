@@ -13,9 +13,6 @@ namespace {
 using program::Program;
 using windows::FrmFrameHistory;
 
-constexpr int Hourglass = 11;
-constexpr int DefaultPointer = 0;
-
 std::string SpecialFolder(Program& program, int number) {
   return ExistingFolder(program.platform.folders, fileutil::GetSpecialFolder(program, number));
 }
@@ -72,13 +69,13 @@ void ShowIECookies(Program& program) {
 
 void RefreshCleanPanel(Program& program) {
   FrmFrameHistory& panel = *program.windows.FrmFrameHistory;
-  panel.SetMousePointer(Hourglass);
+  panel.SetMousePointer(forms::PointerHourglass);
   program.DoEvents();
   ShowCacheSizes(program);
   program.DoEvents();
   ShowIECookies(program);
   program.DoEvents();
-  panel.SetMousePointer(DefaultPointer);
+  panel.SetMousePointer(forms::PointerDefault);
 }
 
 void lblRefresh_Click(Program& program) {

@@ -19,7 +19,7 @@ using program::Program;
 using windows::FrmFrameIEPlugin;
 
 constexpr const char* BrowserSetupKey = "Software\\Microsoft\\IE Setup\\Setup";
-constexpr const char* ToolbarKey = "SOFTWARE\\Microsoft\\Internet Explorer\\Toolbar\\";
+constexpr const char* ToolbarValuesKey = "SOFTWARE\\Microsoft\\Internet Explorer\\Toolbar\\";
 constexpr const char* MenuExtKey = "SOFTWARE\\Microsoft\\Internet Explorer\\MenuExt\\";
 constexpr const char* ExtensionsKey = "SOFTWARE\\Microsoft\\Internet Explorer\\Extensions\\";
 // What a button's tag begins with; the other spelling is meant.
@@ -243,7 +243,7 @@ void LoadPluginList(Program& program) {
   panel.lblTotalBHO.SetCaption(" Total:" + std::to_string(count) + " BHO(s) found.");
   ShowPluginFolder(program, trap);
   AddPluginFiles(program, trap);
-  EnumToolbarValues(program, platform::HKeyLocalMachine, ToolbarKey);
+  EnumToolbarValues(program, platform::HKeyLocalMachine, ToolbarValuesKey);
   SubKeyCountMenuExt(program, platform::HKeyCurrentUser, MenuExtKey, count);
   SubKeyCountButton(program, platform::HKeyLocalMachine, ExtensionsKey, count);
   panel.lblTotalBHO.SetCaption(" Total:" + std::to_string(panel.lstBHO.Count()) +

@@ -20,19 +20,19 @@ forms::CheckBox& BoxAt(forms::Form& panel, forms::CheckBox Panel::*box) {
 }
 
 template <auto Slot, auto Box>
-inline constexpr BoxState BoxOf{
+inline constexpr BoxState StateOf{
     {[](Windows& windows) -> program::FormSlot& { return windows.*Slot; },
      [](forms::Form& panel) -> forms::CheckBox& { return BoxAt(panel, Box); }}};
 
 // The state of a box of the one panel or the other.
 template <auto Box>
-inline constexpr BoxState Blocking = BoxOf<&Windows::FrmFrameBlockPreferences, Box>;
+inline constexpr BoxState Blocking = StateOf<&Windows::FrmFrameBlockPreferences, Box>;
 template <auto Box>
-inline constexpr BoxState General = BoxOf<&Windows::FrmFrameSettings, Box>;
+inline constexpr BoxState General = StateOf<&Windows::FrmFrameSettings, Box>;
 template <auto Box>
-inline constexpr BoxState Notification = BoxOf<&Windows::FrmFrameNotification, Box>;
+inline constexpr BoxState Notification = StateOf<&Windows::FrmFrameNotification, Box>;
 template <auto Box>
-inline constexpr BoxState Welcome = BoxOf<&Windows::FrmFrameMain, Box>;
+inline constexpr BoxState Welcome = StateOf<&Windows::FrmFrameMain, Box>;
 
 inline constexpr BoxState KeepLog = General<&FrmFrameSettings::chkGLog>;
 
