@@ -14,6 +14,16 @@ int BrowseCallbackProc(program::Program& program, platform::WindowHandle picker,
   return 0;
 }
 
+namespace {
+
+std::string TakePath(platform::Shell& shell, platform::ItemList list) {
+  std::string path = PathOfItemList(shell, list);
+  shell.CoTaskMemFree(list);
+  return path;
+}
+
+}  // namespace
+
 std::string BrowseForFolder(program::Program& program, const std::string& startFolder,
                             platform::WindowHandle owner, const std::string& prompt) {
   platform::BrowseInfo info;
@@ -26,12 +36,7 @@ std::string BrowseForFolder(program::Program& program, const std::string& startF
   program.BrowseStartPath = startFolder;
   platform::Shell& shell = program.platform.shell;
   const platform::ItemList chosen = shell.SHBrowseForFolderA(info);
-  if (chosen == 0) {
-    program.toolkit.ThrowIfEnding();
-    return {};
-  }
-  std::string path = PathOfItemList(shell, chosen);
-  shell.CoTaskMemFree(chosen);
+  std::string path = chosen == 0 ? std::string() : TakePath(shell, chosen);
   program.toolkit.ThrowIfEnding();
   return path;
 }

@@ -76,6 +76,17 @@ TEST_F(FolderPaths, ACancelledPickerGivesAnEmptyText) {
   EXPECT_THAT(process.Trace().LinesOf("CoTaskMemFree"), IsEmpty());
 }
 
+TEST_F(FolderPaths, AnEndWhileThePickerIsUpEndsTheRequestWhateverWasChosen) {
+  for (const char* chosen : {"", "D:\\chosen"}) {
+    world.pickFolder = [&](const auto&) {
+      toolkit.AtBorder([&] { toolkit.End(); });
+      return std::string(chosen);
+    };
+    EXPECT_THROW(BrowseForFolder(program, "", 0, ""), forms::EndProgram) << chosen;
+    EXPECT_EQ(world.itemLists.size(), 0U);
+  }
+}
+
 TEST_F(FolderPaths, WithoutAStartFolderThePickerOpensAtItsDefault) {
   process.Trace().Clear();
   world.pickFolder = [](const auto& picker) { return picker.Selected; };

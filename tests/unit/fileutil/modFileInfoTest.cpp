@@ -64,6 +64,11 @@ TEST_F(ProductName, IsTheWideValueBehindTheLandmark) {
             "Helper Bar");
 }
 
+TEST_F(ProductName, AWideValueWithoutAlignmentIsReadFromItsFirstByte) {
+  EXPECT_EQ(NameIn(LandmarkBytes + "\1\0"s + Wide("ProductName") + "\0\0"s + Wide("Bar") + "\0\0"s),
+            "Bar");
+}
+
 TEST_F(ProductName, OfSeveralLanguagesIsTheFirst) {
   EXPECT_EQ(NameIn(LandmarkBytes + Entry("ProductName", "One") + "\0"s +
                    Entry("ProductName", "Two") + "\0"s),
