@@ -118,6 +118,14 @@ static_assert(RowsAgree(BlockSettingsRows) && CountOf(BlockSettingsRows, FilledM
 static_assert(RowsAgree(SettingsRows) && CountOf(SettingsRows, FilledMarker) == 1);
 static_assert(RowsAgree(BlockLogRows) && RowsAgree(ToolbarSettingsRows));
 
+// What the check refuses: a name in two spellings, another name to read, no row to be read before.
+constexpr Setting Once{"One", Number{1}, Nothing{}};
+constexpr Setting Again{"oNE", Number{1}, Nothing{}};
+constexpr Setting ReadAsAnother{"One", Number{1}, Nothing{}, AsItIs, "Two"};
+constexpr Setting ReadBeforeNone{"One", Number{1}, Nothing{}, AsItIs, {}, "Two"};
+static_assert(RowsAgree(std::array{Once}) && !RowsAgree(std::array{Once, Again}));
+static_assert(!RowsAgree(std::array{ReadAsAnother}) && !RowsAgree(std::array{ReadBeforeNone}));
+
 }  // namespace
 
 constinit const std::array<Section, 4> Sections{{

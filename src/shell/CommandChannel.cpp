@@ -73,15 +73,15 @@ constexpr bool Findable(std::string_view text) {
   return text.starts_with('/') && !capitals;
 }
 
-constexpr bool EachFindableOnce() {
-  for (const Command& row : Commands) {
-    const auto same = [&row](const Command& c) { return std::string_view(c.text) == row.text; };
-    if (!Findable(row.text)) return false;
-    if (std::count_if(std::begin(Commands), std::end(Commands), same) != 1) return false;
-  }
-  return true;
+constexpr bool IsFindable(const Command& row) { return Findable(row.text); }
+constexpr bool StandsOnce(const Command& row) {
+  const auto same = [&row](const Command& c) { return std::string_view(c.text) == row.text; };
+  return std::count_if(std::begin(Commands), std::end(Commands), same) == 1;
 }
-static_assert(EachFindableOnce(), "a command has one row, in lower case behind a slash");
+static_assert(std::all_of(std::begin(Commands), std::end(Commands), IsFindable),
+              "a command is in lower case behind a slash");
+static_assert(std::all_of(std::begin(Commands), std::end(Commands), StandsOnce),
+              "a command has one row");
 static_assert(Findable("/az") && !Findable("/A") && !Findable("/Z") && !Findable("az"));
 
 const Command* FindCommand(const std::string& command) {

@@ -82,14 +82,6 @@ constexpr ToolRow Tools[] = {
     {15, LaunchHelp, nullptr},
 };
 
-constexpr bool Ascending() {
-  for (std::size_t i = 1; i < std::size(Tools); ++i) {
-    if (Tools[i - 1].index >= Tools[i].index) return false;
-  }
-  return true;
-}
-static_assert(Ascending(), "a tool button has one row");
-
 // Whether no two rows of a table are for the same control.
 template <class Row, std::size_t Count, class Member>
 constexpr bool EachOnce(const Row (&rows)[Count], Member Row::*control) {
@@ -101,6 +93,10 @@ constexpr bool EachOnce(const Row (&rows)[Count], Member Row::*control) {
   return true;
 }
 static_assert(EachOnce(Links, &LinkRow::link), "a link has one row");
+static_assert(EachOnce(Tools, &ToolRow::index), "a tool button has one row");
+
+constexpr ToolRow OneTwice[] = {{1, nullptr, nullptr}, {1, nullptr, nullptr}};
+static_assert(!EachOnce(OneTwice, &ToolRow::index));
 
 void PressTool(Program& program, int index) {
   for (const ToolRow& row : Tools) {

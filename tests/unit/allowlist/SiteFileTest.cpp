@@ -190,6 +190,7 @@ TEST_F(SiteFile, AFileThatRefusesStaysAsItIs) {
   EXPECT_FALSE(Add("b"));
   ClearSiteFile(Files(), Path);
   EXPECT_FALSE(Rewrite({"c", "d"}));
+  EXPECT_FALSE(Rewrite({}));
   world.files.SetReadOnly(Path, false);
   world.files.SetLocked(Path, true);
   EXPECT_FALSE(Add("b"));

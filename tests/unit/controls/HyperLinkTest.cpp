@@ -394,6 +394,7 @@ TEST_F(HyperLinks, SettersReportTheirChange) {
   EXPECT_EQ(events_, (Events{"Font", "Enabled", "Alignment", "AutoSize", "HyperLink", "HoverColor",
                              "Appearance", "BorderStyle", "ForeColor", "BackColor", "AutoToolTip",
                              "SoundOn", "SoundID", "MOUnderline", "MOPointer"}));
+  EXPECT_FALSE(Link().MOPointer());
   EXPECT_EQ(Link().Font().Size, 9);
   EXPECT_EQ(Label().Alignment(), forms::Align::Center);
   EXPECT_EQ(Link().SoundID(), 102);
@@ -594,6 +595,11 @@ TEST_F(HyperLinks, TheSavedExtentIsRead) {
   EXPECT_EQ(Label().At(), (forms::Place{0, 0, 750, 450}));
 }
 
+TEST_F(HyperLinks, AnExtentOfNothingIsOne) {
+  Make({{"autosize", "0"}, {"_extentx", "0"}, {"_extenty", "0"}});
+  EXPECT_EQ(Link().At(), (forms::Place{LinkPlace.Left, LinkPlace.Top, 0, 0}));
+}
+
 TEST_F(HyperLinks, AnExtentReadLaterIsTakenWhateverTheSizeWas) {
   Make();
   Link().ReadProperties({{"_extentx", "750"}, {"_extenty", "450"}, {"autosize", "0"}});
@@ -679,8 +685,8 @@ TEST_F(HyperLinks, WhatIsNoValueIsRefused) {
         PropertyBag{{"alignment", "9"}}, PropertyBag{{"forecolor", "&Hxyz"}},
         PropertyBag{{"font", "Arial"}}, PropertyBag{{"font", "Arial;8;0;0"}},
         PropertyBag{{"appearance", "2"}}, PropertyBag{{"borderstyle", "-1"}},
-        PropertyBag{{"_extentx", "wide"}}, PropertyBag{{"_extenty", "-15"}},
-        PropertyBag{{"enabled", ""}}}) {
+        PropertyBag{{"_extentx", "wide"}}, PropertyBag{{"_extentx", "-1"}},
+        PropertyBag{{"_extenty", "-1"}}, PropertyBag{{"enabled", ""}}}) {
     EXPECT_THROW(Link().ReadProperties(bad), text::RuntimeError) << bad.Entries()[0].Name;
   }
 }

@@ -84,6 +84,13 @@ TEST_F(CommandChannel, OnOffInMixedCaseTogglesBlocking) {
   EXPECT_EQ(Number(BlockSettings, "GDisabled"), 1U);
 }
 
+TEST_F(CommandChannel, OnOffShowsTheWelcomePanelBesideWhatShows) {
+  StartAgain("/options");
+  StartAgain("/onoff");
+  EXPECT_THAT(ShownPanels(*copy),
+              testing::UnorderedElementsAre("FrmFrameMain", "FrmFrameSettings"));
+}
+
 TEST_F(CommandChannel, TheToolbarsDialogShowsAloneAndTheMainWindowStaysHidden) {
   StartAgain("/customtoolbar");
   EXPECT_FALSE(Main().Visible());
