@@ -31,7 +31,7 @@ forms::Form& FormSlot::Touch() {
 }
 
 void FormSlot::Make() {
-  if (window_) toolkit_.Discard(std::move(window_));
+  toolkit_.Discard(std::move(window_));
   MakeUpToLoad();
   window_->EnsureLoaded();
 }

@@ -1,6 +1,8 @@
 // The window singletons: when a window is made, and what an error on the way leaves.
 #include <gmock/gmock.h>
 
+#include <memory>
+
 #include "program/Windows.h"
 #include "support/ComponentFixture.h"
 #include "text/RuntimeError.h"
@@ -81,6 +83,23 @@ TEST_F(WindowSlots, AWindowThatUnloadsItselfInItsLoadIsMadeAnewByTheNextUse) {
   AsEvent([&] { slot.EnsureLoaded(); });
   EXPECT_EQ(loads, 2);
   EXPECT_TRUE(slot.Loaded());
+}
+
+TEST_F(WindowSlots, AWindowThatIsMadeAnewOutlivesTheEventThatUnloadedIt) {
+  std::weak_ptr<int> first;
+  slot.OnMade([&](Panel& panel) {
+    const auto mark = std::make_shared<int>();
+    if (++loads == 1) first = mark;
+    panel.Load = [mark] {};
+  });
+  slot.EnsureLoaded();
+  AsEvent([&] {
+    slot->Unload();
+    slot.EnsureLoaded();
+    EXPECT_EQ(loads, 2);
+    EXPECT_FALSE(first.expired());
+  });
+  EXPECT_TRUE(first.expired());
 }
 
 }  // namespace
