@@ -118,6 +118,8 @@ static_assert(RowsAgree(BlockSettingsRows) && CountOf(BlockSettingsRows, FilledM
 static_assert(RowsAgree(SettingsRows) && CountOf(SettingsRows, FilledMarker) == 1);
 static_assert(RowsAgree(BlockLogRows) && RowsAgree(ToolbarSettingsRows));
 
+static_assert(SameName("AZ", "az") && !SameName("@[", "`{") && !SameName("One", "Tne"));
+
 // What the check refuses: a name in two spellings, another name to read, no row to be read before.
 constexpr Setting Once{"One", Number{1}, Nothing{}};
 constexpr Setting Again{"oNE", Number{1}, Nothing{}};

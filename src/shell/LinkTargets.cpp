@@ -1,10 +1,10 @@
 #include "shell/LinkTargets.h"
 
-#include <iterator>
 #include <type_traits>
 #include <variant>
 
 #include "launch/OpenUrl.h"
+#include "shell/EachOnce.h"
 #include "windows/FrmAbout.h"
 #include "windows/FrmFrameAllowList.h"
 #include "windows/FrmFrameBlockPreferences.h"
@@ -120,15 +120,7 @@ constexpr Row Rows[] = {
     {&FrmFrameLog::Label46, {Base::ProgramFolder, "\\help\\graph.htm#DetailedLog"}},
 };
 
-constexpr bool SourcesAreUnique() {
-  for (std::size_t one = 0; one < std::size(Rows); ++one) {
-    for (std::size_t other = one + 1; other < std::size(Rows); ++other) {
-      if (Rows[one].source == Rows[other].source) return false;
-    }
-  }
-  return true;
-}
-static_assert(SourcesAreUnique(), "a control opens one page");
+static_assert(EachOnce(Rows, &Row::source), "a control opens one page");
 
 template <class Window, class Member>
 void Bind(Program& program, Window& window, Member Window::*member, const launch::Target& target) {

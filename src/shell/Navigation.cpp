@@ -5,6 +5,7 @@
 #include "launch/OpenUrl.h"
 #include "settings/bmdlSave.h"
 #include "shell/CheckAndRepair.h"
+#include "shell/EachOnce.h"
 #include "windows/FrmAbout.h"
 #include "windows/FrmFrameBlockPreferences.h"
 #include "windows/FrmFrameHistory.h"
@@ -82,19 +83,9 @@ constexpr ToolRow Tools[] = {
     {15, LaunchHelp, nullptr},
 };
 
-// Whether no two rows of a table are for the same control.
-template <class Row, std::size_t Count, class Member>
-constexpr bool EachOnce(const Row (&rows)[Count], Member Row::*control) {
-  for (std::size_t one = 0; one < Count; ++one) {
-    for (std::size_t other = one + 1; other < Count; ++other) {
-      if (rows[one].*control == rows[other].*control) return false;
-    }
-  }
-  return true;
-}
 static_assert(EachOnce(Links, &LinkRow::link), "a link has one row");
 static_assert(EachOnce(Tools, &ToolRow::index), "a tool button has one row");
-
+// The check refuses a table of one row that stands twice.
 constexpr ToolRow OneTwice[] = {{1, nullptr, nullptr}, {1, nullptr, nullptr}};
 static_assert(!EachOnce(OneTwice, &ToolRow::index));
 

@@ -4,6 +4,7 @@
 
 #include "platform/memory/Process.h"
 #include "platform/memory/World.h"
+#include "settings/RegistryConversions.h"
 #include "settings/bmdlReg.h"
 #include "text/RuntimeError.h"
 
@@ -23,6 +24,13 @@ std::string Bytes(std::initializer_list<int> bytes) {
   std::string text;
   for (const int byte : bytes) text += static_cast<char>(byte);
   return text;
+}
+
+TEST(NumberFromDwordBytes, TakesAtMostTheFirstFourBytes) {
+  const std::string bytes = Bytes({1, 2, 3, 4, 5});
+  EXPECT_EQ(NumberFromDwordBytes(bytes), 0x04030201);
+  EXPECT_EQ(NumberFromDwordBytes(std::string_view(bytes).substr(0, 2)), 0x0201);
+  EXPECT_EQ(NumberFromDwordBytes({}), 0);
 }
 
 class BmdlReg : public testing::Test {
