@@ -264,6 +264,31 @@ TEST_F(CommandChannel, TheSendersCallsComeInTheirOrder) {
                                  "SendMessageA", "SendMessageA"));
 }
 
+TEST_F(CommandChannel, TheSearchEndsAtTheFirstWindowWithTheCaption) {
+  const auto parent = world.desktop.MakeWindow(77, 0, "parent");
+  for (int i = 0; i < 2; ++i) world.desktop.MakeWindow(77, parent, "twice");
+  std::vector<platform::WindowHandle> children;
+  platform::Desktop& desktop = copy->program.platform.desktop;
+  desktop.EnumChildWindows(parent, [&](platform::WindowHandle child) {
+    children.push_back(child);
+    return true;
+  });
+  ASSERT_EQ(children.size(), 2U);
+  EXPECT_EQ(FindWindowByCaption(copy->program, "twice"), children[0]);
+}
+
+TEST_F(CommandChannel, NoWindowIsNotActivated) {
+  copy->process.Trace().Clear();
+  ActivateWindow(copy->program.platform.desktop, 0);
+  EXPECT_THAT(copy->process.Trace().Names(), testing::IsEmpty());
+}
+
+TEST_F(CommandChannel, ASenderThatIsEndedWhileItWaitsEnds) {
+  auto second = MakeCopy("/notify");
+  copy->toolkit.WhenPumped([&] { second->toolkit.AtBorder([&] { second->toolkit.End(); }); });
+  EXPECT_THROW(SendCommand(second->program, "/notify"), forms::EndProgram);
+}
+
 TEST_F(CommandChannel, ACaptionIsCutAt127Characters) {
   const auto window = world.desktop.MakeWindow(77, 0, std::string(300, 'w'));
   EXPECT_EQ(GetWindowCaption(copy->program.platform.desktop, window), std::string(127, 'w'));
