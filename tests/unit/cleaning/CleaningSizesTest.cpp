@@ -60,6 +60,23 @@ TEST_F(CleaningSizes, WithoutTempBesideTheHistoryAllLabelsStay) {
   EXPECT_EQ(Panel().lblcookies.Caption(), "1 Kbs of files");
 }
 
+TEST_F(CleaningSizes, BesideAHistoryAtADrivesRootTempIsMeasuredToo) {
+  world.specialFolders[fileutil::CSIDL_HISTORY] = "C:\\History";
+  world.files.MakeFolder("C:\\History");
+  Put("C:\\Temp\\f", std::string(1024, 'x'));
+  ShowCacheSizes(program);
+  EXPECT_EQ(Captions().back(), "1 Kbs");
+  EXPECT_EQ(Paths().back(), "C:\\Temp");
+}
+
+TEST_F(CleaningSizes, ADrivesRootAsTheHistoryHasNothingBesideIt) {
+  ShowCacheSizes(program);
+  Put(std::string(Internet) + "\\f", std::string(4096, 'x'));
+  world.specialFolders[fileutil::CSIDL_HISTORY] = "C:\\";
+  RefreshCleanPanel(program);
+  EXPECT_THAT(Captions(), Each("0 Kbs"));
+}
+
 TEST_F(CleaningSizes, AFolderThatTheShellDoesNotKnowChangesNoLabel) {
   for (const int number :
        {fileutil::CSIDL_INTERNET_CACHE, fileutil::CSIDL_RECENT, fileutil::CSIDL_HISTORY}) {

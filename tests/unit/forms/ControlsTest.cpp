@@ -61,8 +61,14 @@ TEST_F(Controls, AssignmentOfWhatIsThereDoesNothing) {
   form.label.SetAlignment(Align::Left);
   form.timer.SetInterval(2000);
   form.progress.SetValue(0);
+  form.progress.SetMin(0);
+  form.progress.SetMax(100);
+  form.chart.SetData("1");
   form.SetCaption("Bench");
   form.SetWidth(3000);
+  form.SetHeight(2000);
+  form.SetWindowState(WindowState::Normal);
+  form.SetMousePointer(0);
   EXPECT_THAT(notes, IsEmpty());
 }
 
@@ -160,7 +166,10 @@ TEST_F(Controls, DisabledControlsGetNoClickFromTheUser) {
   form.button.SetEnabled(false);
   form.check.SetEnabled(false);
   form.lone.SetEnabled(false);
+  form.toolbar.ButtonClick = [&](int) { notes.push_back("press"); };
+  form.toolbar.SetEnabled(false);
   notes.clear();
+  form.toolbar.UserPresses(1);
   form.button.UserClick();
   form.check.UserClick();
   form.lone.UserClick();
@@ -282,6 +291,7 @@ TEST_F(Controls, AStatusBarHasItsPanels) {
   form.status.SetPanelText(1, "Busy");
   EXPECT_EQ("Busy", form.status.Panels()[0].Text);
   EXPECT_EQ(9, ErrorOf([&] { form.status.SetPanelText(2, "x"); }));
+  EXPECT_EQ(9, ErrorOf([&] { form.status.SetPanelText(0, "x"); }));
   EXPECT_THAT(notes, ElementsAre("status changed 0"));
 }
 

@@ -270,6 +270,20 @@ TEST_F(Forms, ShowModalReturnsBehindTheLoop) {
   EXPECT_FALSE(form.Visible());
 }
 
+TEST_F(Forms, WhatIsShownBehindAModalWindowLeavesThatActive) {
+  panel.Activate = Note("activate");
+  form.EnsureLoaded();
+  PeerOf(form).WhenModal = [&] {
+    panel.Show();
+    EXPECT_TRUE(panel.Visible());
+    EXPECT_EQ(&form, toolkit.ActiveForm());
+  };
+  form.ShowModal();
+  EXPECT_THAT(notes, IsEmpty());
+  panel.Show();
+  EXPECT_THAT(notes, ElementsAre("activate"));
+}
+
 TEST_F(Forms, AModalWindowMayUnloadItself) {
   form.EnsureLoaded();
   PeerOf(form).WhenModal = [&] { notes.push_back("open"); };

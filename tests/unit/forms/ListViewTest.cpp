@@ -131,6 +131,9 @@ TEST_F(Lists, TheDropHighlightStaysWithItsRow) {
   list.Remove(2);
   EXPECT_EQ(0, list.DropHighlight());
   EXPECT_EQ(9, ErrorOf([&] { list.SetDropHighlight(9); }));
+  PeerOf(list).changes = 0;
+  list.SetDropHighlight(0);
+  EXPECT_EQ(0, PeerOf(list).changes);
 }
 
 TEST_F(Lists, SubItemsAreCountedFromOne) {
@@ -180,6 +183,39 @@ TEST_F(Lists, TheUsersCheckTells) {
   EXPECT_EQ(1, checks);
   list.UserChecks(1, false);
   EXPECT_EQ(11, checks);
+}
+
+TEST_F(Lists, WhereThereIsNoRowTheUserNeitherClicksNorChecks) {
+  Fill();
+  PeerOf(list).changes = 0;
+  list.ItemClick = [](ListItem& row) { ADD_FAILURE() << row.Text(); };
+  list.ItemCheck = [](ListItem& row) { ADD_FAILURE() << row.Text(); };
+  list.Click = [] { ADD_FAILURE() << "clicked"; };
+  for (const int index : {-1, 0, 4}) {
+    list.UserSelects(index);
+    list.UserChecks(index, true);
+  }
+  EXPECT_EQ(0, PeerOf(list).changes);
+}
+
+TEST_F(Lists, ADisabledListIsNeitherClickedNorChecked) {
+  Fill();
+  list.SetEnabled(false);
+  list.ItemClick = [](ListItem& row) { ADD_FAILURE() << row.Text(); };
+  list.UserSelects(2);
+  list.UserChecks(2, true);
+  EXPECT_EQ(1, list.SelectedIndex());
+  EXPECT_FALSE(list.Item(2).Checked());
+}
+
+TEST_F(Lists, WithoutCheckBoxesNothingIsChecked) {
+  struct PlainForm : Form {
+    explicit PlainForm(Toolkit& toolkit) : Form(toolkit, "frmPlain", {}) {}
+    ListView list{*this, "list", {}, {.Columns = {{"Name", 900}}}};
+  } plain{toolkit};
+  plain.list.Add("A", "A", "");
+  plain.list.UserChecks(1, true);
+  EXPECT_FALSE(plain.list.Item(1).Checked());
 }
 
 TEST_F(Lists, AHandlerMayRemoveTheRowThatWasClicked) {

@@ -48,6 +48,17 @@ TEST_F(BoxOwner, IsTheModalDialogWhileThatIsUp) {
   EXPECT_EQ(OwnerOfABox(), Forms().frmMain->hWnd());
 }
 
+TEST_F(BoxOwner, IsNoDialogThatIsHiddenAlready) {
+  Forms().frmMain->Show();
+  platform::WindowHandle owner = 0;
+  toolkit.WhenPumped([&] {
+    Forms().FrmAbout->Hide();
+    owner = OwnerOfABox();
+  });
+  Forms().FrmAbout->ShowModal();
+  EXPECT_EQ(owner, Forms().frmMain->hWnd());
+}
+
 TEST_F(BoxOwner, IsTheInnerOneOfTwoModalDialogs) {
   Forms().frmMain->Show();
   platform::WindowHandle owner = 0;

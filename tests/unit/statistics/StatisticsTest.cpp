@@ -222,6 +222,18 @@ TEST_F(Statistics, ARefreshThatFailsShowsAPlainBoxAndLeavesTheRows) {
   EXPECT_EQ(Rows()[0], "P:Popup Windows:P1:1");
 }
 
+TEST_F(Statistics, ARefreshWhileTheErrorsBoxIsUpShowsNoSecondOne) {
+  Open({1, 2, 3, 4, 5});
+  SetNumber("Block Log", "Popup", 40000);
+  process.WhileBoxIsUp = [this](const auto&) {
+    if (process.Boxes().size() == 1) RefreshCounters(program);
+  };
+  RefreshCounters(program);
+  EXPECT_THAT(BoxTexts(), ElementsAre("Overflow"));
+  RefreshCounters(program);
+  EXPECT_EQ(BoxTexts().size(), 2U) << "with the first box gone the next error is shown";
+}
+
 TEST_F(Statistics, AStoreOfBadCountersAtTheMakingShowsBoxesAndBothPanelsStand) {
   Store({40000, 0, 0, 0, 0});
   AsEvent([&] { Graph(); });

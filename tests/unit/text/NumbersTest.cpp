@@ -51,6 +51,7 @@ TEST(CInt, TakesDecimalsAndExponents) {
   EXPECT_EQ(1200, CInt("1.2e3"));
   EXPECT_EQ(1200, CInt("1.2D+3"));
   EXPECT_EQ(1, CInt("120E-2"));
+  EXPECT_EQ(1200, CInt("12d2"));
 }
 
 TEST(CInt, EndsAtThe16BitRange) {
@@ -109,13 +110,21 @@ TEST(Val, ReadsTheNumberAtTheStart) {
   EXPECT_EQ(0, Val("."));
 }
 
-TEST(Val, SkipsBlanksInsideANumber) { EXPECT_EQ(1615, Val("1 6 1 5 street")); }
+TEST(Val, SkipsBlanksInsideANumber) { EXPECT_EQ(1615, Val("1 6\t1\r\n5 street")); }
 
 TEST(Val, ReadsHexadecimal) {
   EXPECT_EQ(255, Val("&hFF"));
   EXPECT_EQ(255, Val("&HffG"));
   EXPECT_EQ(0, Val("&h"));
   EXPECT_EQ(0xA00, Val("&ha00"));
+  EXPECT_EQ(15, Val("&hfg"));
+  EXPECT_EQ(1, Val("&h1.5"));
+  EXPECT_EQ(0, Val("&o17"));
+}
+
+TEST(DecimalVal, ReadsNoHexadecimal) {
+  EXPECT_EQ(0, DecimalVal("&h10"));
+  EXPECT_EQ(-12.5, DecimalVal(" -1 2.5kg"));
 }
 
 TEST(HexToNumber, ReadsUpTo32Bits) {
@@ -124,6 +133,7 @@ TEST(HexToNumber, ReadsUpTo32Bits) {
   EXPECT_EQ(1U, HexToNumber("0000000001"));
   EXPECT_EQ(0xAAAAU, HexToNumber("aAAa"));
   EXPECT_EQ(6, ErrorOf([] { HexToNumber("100000000"); }));
+  EXPECT_EQ(6, ErrorOf([] { HexToNumber("1000000000000"); }));
   EXPECT_EQ(13, ErrorOf([] { HexToNumber(""); }));
   EXPECT_EQ(13, ErrorOf([] { HexToNumber("FFFFFFFFFG"); }));
 }

@@ -40,6 +40,16 @@ TEST(Split, GivesThePiecesBetween) {
   EXPECT_THAT(Split("", ','), IsEmpty());
 }
 
+TEST(TakeLine, CutsTheFirstLineOff) {
+  std::string_view text = "one\r\ntwo\n\r\nlast\r";
+  EXPECT_EQ("one", TakeLine(text));
+  EXPECT_EQ("two", TakeLine(text));
+  EXPECT_EQ("", TakeLine(text));
+  // Without a line feed the carriage return is no line end.
+  EXPECT_EQ("last\r", TakeLine(text));
+  EXPECT_EQ("", text);
+}
+
 TEST(GroupedNumber, GroupsByThousands) {
   EXPECT_EQ("0", GroupedNumber(0, ","));
   EXPECT_EQ("999", GroupedNumber(999, ","));
