@@ -275,6 +275,12 @@ TEST_F(RemovedTree, GoesWithAllThatIsInIt) {
 
 TEST_F(RemovedTree, NothingIsLeftAlone) { EXPECT_NO_THROW(RmTree(program, "C:\\none")); }
 
+TEST_F(RemovedTree, WhatCannotBeFoundOutIsAnError) {
+  Put("C:\\t\\f");
+  process.Faults().FailCall("ListFolder", 1, platform::ErrorAccessDenied);
+  EXPECT_THROW(RmTree(program, "C:\\t"), text::RuntimeError);
+}
+
 TEST_F(RemovedTree, ALockedFileEndsItWithAnError) {
   Put("C:\\t\\a\\f");
   world.files.SetLocked("C:\\t\\a\\f", true);

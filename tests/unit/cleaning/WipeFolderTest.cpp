@@ -73,6 +73,14 @@ TEST_F(WipedFolder, OnFilesTheBarStopsAtItsMaximumAndSoDoTheMessages) {
   EXPECT_EQ(Panel().pbarCache.Value(), 100);
 }
 
+TEST_F(WipedFolder, ABarThatWrapsGoesToAHundred) {
+  Put("C:\\wiped\\a\\f");
+  Panel().pbarCache.SetMax(7);
+  Panel().pbarCache.SetValue(7);
+  WipeFolder(program, Top);
+  EXPECT_EQ(Panel().pbarCache.Max(), 100);
+}
+
 TEST_F(WipedFolder, OnFoldersTheBarWrapsWithoutMessages) {
   for (int folder = 0; folder < 105; ++folder) {
     world.files.MakeFolder("C:\\wiped\\d" + std::to_string(folder));
