@@ -14,12 +14,12 @@ namespace {
 using program::Program;
 
 // A key under HKEY_CLASSES_ROOT whose default value is looked at, and the library that writes it.
-struct Row {
+struct KeyRow {
   const char* key;
   const char* file;  // in the program folder; nullptr: an empty text is looked at and left alone
 };
 
-constexpr Row Rows[] = {
+constexpr KeyRow Keys[] = {
     {"GBHelper.HelperBHO\\Clsid\\", "\\GBHelper.dll"},
     {"Grimbolt.Toolbar\\Clsid\\", "\\GBToolbar.dll"},
     {"TypeLib\\{CF9D9B76-EC4B-470D-99DC-AEC6F36A9261}\\1.0\\0\\win32\\", nullptr},
@@ -27,7 +27,7 @@ constexpr Row Rows[] = {
     {"TypeLib\\{C88FCAC2-DE90-11D3-9876-8517F6B99C68}\\1.6\\0\\win32", nullptr},
 };
 
-using Texts = std::array<std::string, std::size(Rows)>;
+using Texts = std::array<std::string, std::size(Keys)>;
 
 // A value that cannot even be read counts as an empty text.
 Texts ReadAll(Program& program) {
@@ -36,7 +36,7 @@ Texts ReadAll(Program& program) {
   for (std::size_t i = 0; i < texts.size(); ++i) {
     trap([&] {
       texts[i] = settings::ReadRegistryValue(program.platform.registry, platform::HKeyClassesRoot,
-                                             Rows[i].key, "");
+                                             Keys[i].key, "");
     });
   }
   return texts;
@@ -47,8 +47,8 @@ Texts ReadAll(Program& program) {
 void CheckAndRepair(Program& program) {
   const Texts texts = ReadAll(program);
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (!texts[i].empty() || Rows[i].file == nullptr) continue;
-    launch::RegisterDll(program.platform.modules, program.PathOf(Rows[i].file));
+    if (!texts[i].empty() || Keys[i].file == nullptr) continue;
+    launch::RegisterDll(program.platform.modules, program.PathOf(Keys[i].file));
   }
   program.MsgBox("Repaired Successfully!", platform::StyleInformation);
 }

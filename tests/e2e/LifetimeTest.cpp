@@ -1,11 +1,10 @@
 // How the main window lives and ends: sizes, the close box in both its meanings, Exit, the end of
 // the session, and the hidden buttons.
 #include "support/ProgramTest.h"
+#include "support/Twips.h"
 
 namespace vantrel::e2e {
 namespace {
-
-constexpr int TwipsAnInch = 1440;
 
 class LifetimeTest : public ProgramTest {
  protected:
@@ -41,12 +40,6 @@ class LifetimeTest : public ProgramTest {
     RECT area{};
     GetWindowRect(Window(), &area);
     return {area.right - area.left, area.bottom - area.top};
-  }
-  static int Pixels(int twips) {
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
-    return MulDiv(twips, dpi, TwipsAnInch);
   }
 
  private:

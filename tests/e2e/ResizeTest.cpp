@@ -4,18 +4,10 @@
 #include <vector>
 
 #include "support/ProgramTest.h"
+#include "support/Twips.h"
 
 namespace vantrel::e2e {
 namespace {
-
-constexpr int TwipsAnInch = 1440;
-
-int Pixels(int twips) {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-  ReleaseDC(nullptr, screen);
-  return MulDiv(twips, dpi, TwipsAnInch);
-}
 
 class ResizeTest : public ProgramTest {
  protected:

@@ -30,6 +30,7 @@ inline constexpr const char* ToolbarKey = "SOFTWARE\\Microsoft\\Internet Explore
 inline constexpr const char* ToolbarId = "{28BC2EC4-5EAD-45E1-9F9F-82CD5E293601}";
 inline constexpr const char* ToolbarClassKey = "CLSID\\{28BC2EC4-5EAD-45E1-9F9F-82CD5E293601}";
 inline constexpr const char* BrowserSetupKey = "Software\\Microsoft\\IE Setup\\Setup";
+inline constexpr const char* BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
 inline constexpr const char* BrowserFolder = "C:\\Program Files\\Internet Explorer";
 inline constexpr const char* PluginFolder = "C:\\Program Files\\Internet Explorer\\PLUGINS";
 inline constexpr const char* ScriptKey = "Software\\Microsoft\\Internet Explorer\\Main";
@@ -37,8 +38,7 @@ inline constexpr const char* ScriptKey = "Software\\Microsoft\\Internet Explorer
 // What a machine has before the program comes to it.
 inline void FillMachine(platform::memory::World& world) {
   using namespace platform;
-  world.registry.SetString(HKeyLocalMachine, "SOFTWARE\\Microsoft\\Internet Explorer", "Version",
-                           "6.0.2900.2180");
+  world.registry.SetString(HKeyLocalMachine, BrowserKey, "Version", "6.0.2900.2180");
   world.registry.SetString(HKeyLocalMachine, BrowserSetupKey, "Path", BrowserFolder);
   world.files.MakeFolder(PluginFolder);
   world.registry.SetString(HKeyCurrentUser, ScriptKey, "Disable Script Debugger", "yes");

@@ -358,7 +358,6 @@ TEST(FaultSweep, AChosenSite) {
 }
 
 constexpr const char* BackupFolder = "C:\\Program Files\\Vantrel\\Settings\\IESettings\\";
-constexpr const char* BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
 
 void PressBackup(Machine& machine) {
   EXPECT_TRUE(
@@ -369,7 +368,7 @@ void PressRestore(Machine& machine) {
       machine.copy->user.Click(machine.copy->Windows().FrmFrameIESettings->cmdRestoreIESettings));
 }
 std::optional<std::string> BrowserVersion(const Machine& machine) {
-  return machine.world.registry.GetString(platform::HKeyLocalMachine, BrowserKey, "Version");
+  return machine.world.registry.GetString(platform::HKeyLocalMachine, test::BrowserKey, "Version");
 }
 void OpenBackup(Machine& machine) {
   machine.MakeStarted();
@@ -388,10 +387,10 @@ std::vector<std::string> ShownOf(const Machine& machine, std::vector<std::string
 void ExpectBackupUsable(Machine& machine) {
   auto& panel = *machine.copy->Windows().FrmFrameIESettings;
   EXPECT_TRUE(panel.Visible());
-  machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version", "7.0");
+  machine.world.registry.SetString(platform::HKeyLocalMachine, test::BrowserKey, "Version", "7.0");
   PressBackup(machine);
   EXPECT_THAT(panel.txtBackup.Text(), testing::StartsWith("Last backup date was:"));
-  machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version", "8.0");
+  machine.world.registry.SetString(platform::HKeyLocalMachine, test::BrowserKey, "Version", "8.0");
   PressRestore(machine);
   EXPECT_EQ(BrowserVersion(machine), "7.0");
   EXPECT_EQ(machine.BoxTexts(*machine.copy).back(), "Saved Backups has been restored");
@@ -431,7 +430,7 @@ TEST(FaultSweep, RestoreOfTheBrowsersSettings) {
           OpenBackup(machine);
           machine.copy->Windows().FrmFrameIESettings->chktakebackup.SetValue(safetyExport);
           PressBackup(machine);
-          machine.world.registry.SetString(platform::HKeyLocalMachine, BrowserKey, "Version",
+          machine.world.registry.SetString(platform::HKeyLocalMachine, test::BrowserKey, "Version",
                                            "8.0");
         },
         PressRestore,

@@ -18,11 +18,11 @@ namespace {
 using platform::HKeyCurrentUser;
 using platform::HKeyLocalMachine;
 using test::BlockSettings;
+using test::BrowserKey;
 using test::Settings;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
 constexpr const char* StaleKey =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Browser Helper "
     "Objects\\{CD701E6C-90D2-416E-9F3B-FFE9157D28EF}";
