@@ -72,6 +72,7 @@ TEST_F(CleaningSizes, BesideAHistoryAtADrivesRootTempIsMeasuredToo) {
 TEST_F(CleaningSizes, ADrivesRootAsTheHistoryHasNothingBesideIt) {
   ShowCacheSizes(program);
   Put(std::string(Internet) + "\\f", std::string(4096, 'x'));
+  Put("C:\\Temp\\f", "x");
   world.specialFolders[fileutil::CSIDL_HISTORY] = "C:\\";
   RefreshCleanPanel(program);
   EXPECT_THAT(Captions(), Each("0 Kbs"));
