@@ -330,6 +330,18 @@ TEST_F(Startup, AnErrorThatNothingTrapsEndsInABoxAndAUsableWindow) {
   EXPECT_TRUE(copy->Windows().FrmFrameHistory->Visible());
 }
 
+TEST_F(Startup, AnErrorBehindTheLoadBringsBackAWindowThatStartsHidden) {
+  { StartCopy(); }
+  world.registry.SetDword(HKeyCurrentUser, Settings, "BpID", 1);
+  world.registry.SetDword(HKeyCurrentUser, Settings, "Minimize", 1);
+  world.registry.Set(HKeyCurrentUser, test::ScriptKey, "Disable Script Debugger", platform::RegSz,
+                     "");
+  auto copy = StartCopy();
+  EXPECT_THAT(BoxTexts(*copy),
+              ElementsAre("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+  EXPECT_TRUE(copy->Windows().frmMain->Visible());
+}
+
 // A system that makes no window.
 struct RefusingToolkit : forms::headless::Toolkit {
   using Toolkit::Toolkit;
