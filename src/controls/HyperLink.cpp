@@ -20,7 +20,6 @@ bool Boolean(const std::string& text) { return text::CInt(text) != 0; }
 
 // The reverse of ColorText; plain decimal numbers are read as well.
 forms::Color ColorOf(const std::string& text) {
-  if (text::EqualIgnoringCase(text.substr(0, 2), "&H")) return text::HexToNumber(text.substr(2));
   return static_cast<forms::Color>(text::CLng(text));
 }
 
