@@ -30,9 +30,10 @@ std::vector<Overwrite> SplitAtEnd(const std::string& head, std::uint64_t length)
 
 }  // namespace
 
+// The low bits of such an engine repeat soon: the number is made of the upper 32.
 double RandomNumbers::Next() {
-  return static_cast<double>(engine_() - std::minstd_rand::min()) /
-         (static_cast<double>(std::minstd_rand::max()) - std::minstd_rand::min() + 1);
+  constexpr double Step = 1.0 / 4294967296.0;
+  return static_cast<double>(engine_() >> 32U) * Step;
 }
 
 std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, RandomNumbers& random) {
