@@ -237,7 +237,7 @@ void FormWindow::ShowPanel() const {
 void FormWindow::GoBehindDialog() const {
   for (const Form* form : System().LoadedForms()) {
     const auto dialog = form->Modal() ? System().FindForm(HandleOf(*form)) : nullptr;
-    if (dialog != nullptr && dialog.get() != this && !IsPanel()) dialog->modality_.Cover(Handle());
+    if (dialog != nullptr && dialog.get() != this) dialog->modality_.Cover(Handle());
   }
 }
 
