@@ -93,6 +93,24 @@ MakePrefix() {
   touch "$WINEPREFIX/vantrel-prepared"
 }
 
+# ShowDesktop: Wine's own desktop window, whole before anything else runs. A program that asks for
+# the desktop while that is being made has no parent for its message-only windows (HWND_MESSAGE),
+# and may start a desktop process of its own, which leaves none to all programs of the session.
+ShowDesktop() {
+  local mark=$WINEPREFIX/drive_c/desktop-stands tries process=""
+  rm -f "$mark"
+  for ((tries = 0; tries < 600; tries++)); do
+    [[ ! -e $mark ]] || break
+    # Where a start failed (see UseWine), another follows.
+    if [[ -z $process ]] || ! kill -0 "$process" 2>/dev/null; then
+      Wine explorer /desktop=Default,1280x1024 cmd /c 'echo >C:\desktop-stands' &
+      process=$!
+    fi
+    sleep 0.1
+  done
+  rm "$mark"
+}
+
 # PrepareWine [user]: on Wine's own desktop window, because without a window manager keys reach
 # programs and captions are drawn only inside one; or on the user's desktop, with its tray.
 PrepareWine() {
@@ -108,9 +126,8 @@ PrepareWine() {
     else
       Wine reg add "$explorer" /v Desktop /d Default /f || return 1
       Wine reg add "$explorer\\Desktops" /v Default /d 1280x1024 /f || return 1
-      Wine explorer /desktop=Default,1280x1024 &
+      ShowDesktop
     fi
-    Wine cmd /c exit
   } >"$log" 2>&1 </dev/null
 }
 
@@ -156,8 +173,7 @@ StartSession() {
   mkdir -p "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
   {
     WineServer -p || true
-    Wine explorer /desktop=Default,1280x1024 &
-    Wine cmd /c exit
+    ShowDesktop
   } >"$copy.data/session.log" 2>&1 </dev/null || { cat "$copy.data/session.log" >&2; return 1; }
 }
 
