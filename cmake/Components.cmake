@@ -106,6 +106,9 @@ function(vantrel_test_program name)
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} test-support GTest::gmock
                                         vantrel-warnings)
   vantrel_compile_quickly(${name})
+  if(MINGW)
+    target_link_options(${name} PRIVATE "-B${PROJECT_SOURCE_DIR}/cmake/lld/")
+  endif()
   add_test(NAME ${name} COMMAND ${name})
 endfunction()
 
