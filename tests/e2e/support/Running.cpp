@@ -146,6 +146,8 @@ bool Running::WaitForExit(DWORD bound) const {
 
 bool Running::WaitUntilIdle(DWORD bound) const {
   bool idle = false;
+  // Looking at its windows would slow its start down.
+  WaitForInputIdle(Process(), bound);
   WaitFor(
       [&] {
         if (!Alive() || CurrentBox()) return true;
@@ -179,12 +181,10 @@ HWND Running::Find(const std::string& controlName) const {
       ControlNameOf(found) == controlName) {
     return found;
   }
-  found = nullptr;
-  ForEachWindow(ProcessId(), [&](HWND window) {
-    if (ControlNameOf(window) == controlName) found = window;
-    return found == nullptr;
-  });
-  return found;
+  // Each window costs calls to its process: one walk finds what is asked for next as well.
+  known_.clear();
+  for (const auto& [name, window] : Named()) known_.emplace(name, window);
+  return known_[controlName];
 }
 
 std::vector<HWND> Running::AllWindows() const {

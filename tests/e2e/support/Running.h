@@ -105,7 +105,7 @@ class Running {
   std::string Hindrance() const;
 
   PROCESS_INFORMATION process_{};
-  mutable std::map<std::string, HWND> known_;  // what Find has found
+  mutable std::map<std::string, HWND> known_;  // the named windows when Find last looked
 };
 
 // The "ControlName" of a window of any process, empty without one.
