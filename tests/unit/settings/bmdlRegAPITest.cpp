@@ -1,6 +1,7 @@
 // The other readers of the registry, and the calls of the start-with-Windows entry.
 #include <gmock/gmock.h>
 
+#include "platform/memory/RegistryView.h"
 #include "settings/StartWithWindowsRegistry.h"
 #include "settings/bmdlRegAPI.h"
 #include "support/ComponentFixture.h"
@@ -124,6 +125,29 @@ TEST_F(BmdlRegAPI, AnEnumerationWithoutASubkeyReadsTheOpenKeyAndLeavesItOpen) {
 TEST_F(BmdlRegAPI, AnEnumerationOfManyValuesGivesThemAll) {
   for (int i = 0; i < 250; ++i) Store(std::to_string(i), platform::RegSz, "x.");
   EXPECT_EQ(Rows(HKeyCurrentUser, Key).size(), 250U);
+}
+
+// A key whose values have no end.
+class EndlessValues : public platform::memory::RegistryView {
+ public:
+  using RegistryView::RegistryView;
+  std::int32_t RegEnumValueA(platform::KeyHandle, std::uint32_t, std::uint32_t, std::string& name,
+                             std::uint32_t& type, std::uint32_t, std::string&) override {
+    name = "v";
+    type = platform::RegSz;
+    return platform::ErrorSuccess;
+  }
+};
+
+TEST_F(BmdlRegAPI, AnEnumerationStopsBehindTheIndex1000000) {
+  EndlessValues endless(world.registry);
+  EXPECT_EQ(EnumerateRegistryValues(endless, HKeyCurrentUser, "").size(), 1000001U);
+}
+
+TEST_F(BmdlRegAPI, OfANumberFourBytesCount) {
+  Store("long", platform::RegDword, std::string("\1\0\0\0\2", 5));
+  Store("short", platform::RegDword, "\3\1");
+  EXPECT_THAT(Rows(HKeyCurrentUser, Key), ElementsAre("long=1", "short=259"));
 }
 
 TEST_F(BmdlRegAPI, TheRunKeyIsCreatedWithTheShortMask) {
