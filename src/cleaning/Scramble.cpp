@@ -1,6 +1,8 @@
 #include "cleaning/Scramble.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "cleaning/CleaningTarget.h"
 #include "fileutil/NumberedFile.h"
@@ -18,14 +20,10 @@ char RandomCharacter(RandomNumbers& random, int range, int first) {
   return static_cast<char>(static_cast<int>(range * random.Next()) + first);
 }
 
-// One row for what lies inside the file and one for the byte that makes it grow: should the disk
-// be full, only the growth fails.
-std::vector<Overwrite> SplitAtEnd(const std::string& head, std::uint64_t length) {
-  std::vector<Overwrite> rows;
-  const std::size_t inside = std::min<std::uint64_t>(head.size(), length);
-  if (inside > 0) rows.push_back({0, head.substr(0, inside)});
-  if (inside < head.size()) rows.push_back({inside, head.substr(inside)});
-  return rows;
+// What of a row lies inside a file of `length` bytes.
+std::string_view InsideOf(const Overwrite& row, std::uint64_t length) {
+  const std::uint64_t room = length > row.Offset ? length - row.Offset : 0;
+  return std::string_view(row.Bytes).substr(0, std::min<std::uint64_t>(row.Bytes.size(), room));
 }
 
 }  // namespace
@@ -48,7 +46,7 @@ std::vector<Overwrite> OverwritesOf(std::uint64_t length, int fileNumber, Random
   // Each pass writes the marked byte anew; only the pass that stands on it itself, and is the
   // last, leaves its own.
   if (marked + 1 < passes) head[marked] = mark;
-  std::vector<Overwrite> rows = SplitAtEnd(head, length);
+  std::vector<Overwrite> rows{{0, std::move(head)}};
   if (marked >= passes) rows.push_back({marked, std::string(1, mark)});
   return rows;
 }
@@ -58,8 +56,11 @@ void ScrambleFile(Program& program, const std::string& path) {
   trap([&] {
     fileutil::NumberedFile file(program, path, platform::FileAccess::ReadWriteNoLink);
     RandomNumbers random(program.platform.system.GetTickCount());
-    for (const Overwrite& row : OverwritesOf(file.Length(), file.Number(), random)) {
-      trap([&] { file.WriteAt(row.Offset, row.Bytes); });
+    const std::uint64_t length = file.Length();
+    for (const Overwrite& row : OverwritesOf(length, file.Number(), random)) {
+      if (trap([&] { file.WriteAt(row.Offset, row.Bytes); })) continue;
+      // On a full disk a file cannot grow; what is in it is overwritten all the same.
+      trap([&] { file.WriteAt(row.Offset, InsideOf(row, length)); });
     }
   });
 }

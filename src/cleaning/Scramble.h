@@ -24,8 +24,7 @@ class RandomNumbers {
       engine_;
 };
 
-// What the passes over a file leave: bytes at places, in the order of writing, none beyond the
-// file's end but in the last rows.
+// What the passes over a file leave: bytes at places, in the order of writing.
 struct Overwrite {
   std::uint64_t Offset = 0;  // 0-based
   std::string Bytes;
