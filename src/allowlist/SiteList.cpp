@@ -54,10 +54,11 @@ void ReadRecords(std::string_view content, Reader read) {
 using Labels = std::array<std::string, SiteFlags.size()>;
 
 void Follow(const SiteFields& fields, Labels& labels) {
-  for (std::size_t i = 0; i < labels.size(); ++i) {
-    const std::string_view value = ValueOf(fields.Fields[i + 1]);
-    if (value == "0") labels[i] = BlockedLabel;
-    if (value == "1") labels[i] = AllowedLabel;
+  const auto* field = fields.Fields.data();
+  for (std::string& label : labels) {
+    const std::string_view value = ValueOf(*++field);
+    if (value == "0") label = BlockedLabel;
+    if (value == "1") label = AllowedLabel;
   }
 }
 
