@@ -4,9 +4,9 @@
 
 set(VANTREL_EXPORTED_HEADERS "${CMAKE_BINARY_DIR}/exported-headers")
 
-# Presets with CMAKE_UNITY_BUILD compile about ten files of a target together: more than half of a
-# file's compile time is its headers. The preset native compiles each file alone, and windows-x64 what
-# of src/ only Windows has, so that a missing #include is seen there and an edit recompiles one file.
+# The presets windows-x86 and sanitize compile about ten files of a target together
+# (CMAKE_UNITY_BUILD): more than half of a file's compile time is its headers. The other presets
+# compile each file alone, so that a missing #include is seen there and an edit recompiles one file.
 # Files that repeat another one's names stand alone everywhere: UNITY_BUILD, SKIP_UNITY_BUILD_INCLUSION.
 
 # vantrel_link_header(<header> <place>): a link to the header; where the system refuses links, a
@@ -57,9 +57,6 @@ function(vantrel_component folder)
     set(scope PUBLIC)
     target_link_libraries(${target} PRIVATE vantrel-warnings)
     vantrel_precompile_standard_headers(${target})
-    if(folder MATCHES "win32$|^app/pictures$")
-      vantrel_compile_alone(${target})
-    endif()
   else()
     add_library(${target} INTERFACE)
     set(scope INTERFACE)
@@ -70,13 +67,6 @@ function(vantrel_component folder)
     string(REPLACE "/" "-" used "${used}")
     target_link_libraries(${target} ${scope} "vantrel-${used}")
   endforeach()
-endfunction()
-
-# vantrel_compile_alone(<target>): for what only Windows has; see CMAKE_UNITY_BUILD above.
-function(vantrel_compile_alone target)
-  if(VANTREL_WINDOWS_ARCH STREQUAL "x64")
-    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
-  endif()
 endfunction()
 
 # vantrel_precompile_standard_headers(<component>): what nearly every source includes, half of a short

@@ -29,17 +29,20 @@ inline ULONG_PTR* FindImport(HMODULE module, const char* name) {
   return nullptr;
 }
 
+// Puts the address there, also where the linker has the table write-protected.
+inline bool WriteImport(ULONG_PTR* import, ULONG_PTR address) {
+  DWORD before = 0;
+  if (!VirtualProtect(import, sizeof *import, PAGE_READWRITE, &before)) return false;
+  *import = address;
+  VirtualProtect(import, sizeof *import, before, &before);
+  return true;
+}
+
 // False if the module imports no such function.
 template <class Function>
 bool ReplaceImport(HMODULE module, const char* name, Function* function) {
-  ULONG_PTR* const address = FindImport(module, name);
-  DWORD before = 0;
-  if (address == nullptr || !VirtualProtect(address, sizeof *address, PAGE_READWRITE, &before)) {
-    return false;
-  }
-  *address = reinterpret_cast<ULONG_PTR>(function);
-  VirtualProtect(address, sizeof *address, before, &before);
-  return true;
+  ULONG_PTR* const import = FindImport(module, name);
+  return import != nullptr && WriteImport(import, reinterpret_cast<ULONG_PTR>(function));
 }
 
 }  // namespace vantrel::tests

@@ -50,8 +50,8 @@ class Elevation : public testing::Test {
     tests::ReplaceImport(module_, "ShellExecuteExA", NoteShellStart);
   }
   void TearDown() override {
-    *create_ = ownCreate_;
-    *execute_ = ownExecute_;
+    tests::WriteImport(create_, ownCreate_);
+    tests::WriteImport(execute_, ownExecute_);
   }
 
   const HMODULE module_ = GetModuleHandleA(nullptr);
